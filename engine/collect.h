@@ -1,0 +1,23 @@
+// Collecting a statement's or condition's text into a formula: blanks and
+// control characters outside text constants vanish, escapes inside them are
+// resolved, and the formula ends before ';' or an unmatched ')'.
+#pragma once
+#include <cstdint>
+
+#include "interface/run_context.h"
+
+namespace mx {
+
+constexpr int32_t kFormulaCapacity = 1024;  // at most 1023 characters
+
+// An escaped double quote stands as this code until the operand reader turns
+// it back into '"'.
+constexpr char16_t kEscapedQuote = 1;
+
+// Collects the formula at the reader's position, starting with start (the
+// word already read, or absent). Returns a newly allocated, terminated text
+// the caller frees with std::free, or absent with the error set (118, 126, 130,
+// 116). The character that ended the formula is left unread.
+char16_t *fmCollect(RunContext &ctx, const char16_t *start);
+
+}  // namespace mx

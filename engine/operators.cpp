@@ -1,0 +1,142 @@
+#include "engine/operators.h"
+
+#include <cstring>
+
+#include "engine/errors.h"
+#include "engine/trace.h"
+#include "engine/value.h"
+
+namespace mx {
+
+namespace {
+
+// Tried in this order, so "<=" wins over "<".
+constexpr OperatorRow kOperators[] = {
+    {u"<=", 2, kOpLessEqual, 7, 2},  {u">=", 2, kOpGreaterEqual, 7, 2},
+    {u"!=", 2, kOpNotEqual, 7, 2},   {u"==", 2, kOpEqual, 7, 2},
+    {u"<", 1, kOpLess, 7, 2},        {u">", 1, kOpGreater, 7, 2},
+    {u"=", 1, kOpAssign, 5, 2},      {u"+", 1, kOpAdd, 11, 2},
+    {u"-", 1, kOpSubtract, 11, 2},   {u"*", 1, kOpMultiply, 12, 2},
+    {u"/", 1, kOpDivide, 12, 2},     {u"&&", 2, kOpAnd, 6, 2},
+    {u"||", 2, kOpOr, 6, 2},         {u"-", 1, kOpNegate, 20, 1},
+    {u"!", 1, kOpNot, 20, 1},
+};
+constexpr OperatorRow kBracketRow = {u"(", 1, kOpBracket, 2, 3};
+
+Value *fail(RunContext &ctx, int32_t code, Value *left, Value *right) {
+    valRelease(left);
+    valRelease(right);
+    errSet(ctx, code);
+    return nullptr;
+}
+
+// Both operands are released by the caller of these.
+Value *applyLong(RunContext &ctx, int8_t op, int32_t x, int32_t y) {
+    uint32_t ux = uint32_t(x), uy = uint32_t(y);
+    int32_t r = 0;
+    switch (op) {
+        case kOpLessEqual: r = x <= y; break;
+        case kOpGreaterEqual: r = x >= y; break;
+        case kOpNotEqual: r = x != y; break;
+        case kOpEqual: r = x == y; break;
+        case kOpLess: r = x < y; break;
+        case kOpGreater: r = x > y; break;
+        case kOpAdd: r = int32_t(ux + uy); break;
+        case kOpSubtract: r = int32_t(ux - uy); break;
+        case kOpMultiply: r = int32_t(ux * uy); break;
+        case kOpDivide:
+            if (y == 0) {
+                errSet(ctx, kErrDivisionByZero);
+                return nullptr;
+            }
+            r = (x == INT32_MIN && y == -1) ? INT32_MIN : x / y;
+            break;
+        case kOpAnd: r = x != 0 && y != 0; break;
+        case kOpOr: r = x != 0 || y != 0; break;
+        case kOpNot: r = x == 0; break;
+        case kOpNegate: r = int32_t(0u - ux); break;
+        default: break;
+    }
+    return valNewLong(ctx, r);
+}
+
+Value *applyDouble(RunContext &ctx, int8_t op, double x, double y) {
+    switch (op) {
+        case kOpLessEqual: return valNewLong(ctx, x <= y);
+        case kOpGreaterEqual: return valNewLong(ctx, x >= y);
+        case kOpNotEqual: return valNewLong(ctx, x != y);
+        case kOpEqual: return valNewLong(ctx, x == y);
+        case kOpLess: return valNewLong(ctx, x < y);
+        case kOpGreater: return valNewLong(ctx, x > y);
+        case kOpAdd: return valNewDouble(ctx, x + y);
+        case kOpSubtract: return valNewDouble(ctx, x - y);
+        case kOpMultiply: return valNewDouble(ctx, x * y);
+        case kOpDivide:
+            if (y == 0.0) {
+                errSet(ctx, kErrDivisionByZero);
+                return nullptr;
+            }
+            return valNewDouble(ctx, x / y);
+        case kOpNegate: return valNewDouble(ctx, -x);
+        default:  // logical operators take no doubles
+            errSet(ctx, kErrBadOperator);
+            return nullptr;
+    }
+}
+
+// Stores right's value into the scalar left refers to, converted to left's type.
+void storeScalar(Value *left, const Value *right) {
+    switch (left->type) {
+        case kChar: *static_cast<char16_t *>(left->data) = valToChar(right); break;
+        case kLong: *static_cast<int32_t *>(left->data) = valToLong(right); break;
+        case kDouble: *static_cast<double *>(left->data) = valToDouble(right); break;
+        default: break;
+    }
+}
+
+Value *assign(RunContext &ctx, Value *left, Value *right) {
+    if (left->kind != kReference) return fail(ctx, kErrAssignConstant, left, right);
+    bool leftVector = left->count != 0, rightVector = right->count != 0;
+    if (leftVector != rightVector) return fail(ctx, kErrVectorNotAllowed, left, right);
+    if (!leftVector) {
+        storeScalar(left, right);
+    } else {
+        if (left->type != right->type) return fail(ctx, kErrTypeMismatch, left, right);
+        int32_t n = left->count < right->count ? left->count : right->count;
+        int32_t size = valElementSize(left->type);
+        std::memmove(left->data, right->data, size_t(n) * size_t(size));
+        if (left->type == kChar) static_cast<char16_t *>(left->data)[left->count - 1] = 0;
+    }
+    trAssignment(ctx, left);
+    Value *result = valCreate(ctx, left->type, kOwning, 0);
+    if (result) std::memcpy(result->data, left->data, size_t(valElementSize(left->type)));
+    valRelease(left);
+    valRelease(right);
+    return result;
+}
+
+}  // namespace
+
+const OperatorRow *opMatch(const char16_t *text, int32_t arity) {
+    for (const OperatorRow &row : kOperators) {
+        if (row.arity != arity) continue;
+        if (text[0] == row.symbol[0] && (row.length == 1 || text[1] == row.symbol[1])) return &row;
+    }
+    return nullptr;
+}
+
+const OperatorRow *opBracket() { return &kBracketRow; }
+
+Value *opApply(RunContext &ctx, const OperatorRow *row, Value *left, Value *right) {
+    if (row->number == kOpAssign) return assign(ctx, left, right);
+    if (left->count != 0 || (right && right->count != 0))
+        return fail(ctx, kErrVectorNotAllowed, left, right);
+    bool isDouble = left->type == kDouble || (right && right->type == kDouble);
+    Value *result = isDouble ? applyDouble(ctx, row->number, valToDouble(left), right ? valToDouble(right) : 0.0)
+                             : applyLong(ctx, row->number, valToLong(left), right ? valToLong(right) : 0);
+    valRelease(left);
+    valRelease(right);
+    return result;
+}
+
+}  // namespace mx

@@ -1,0 +1,37 @@
+// The operator table and the application of operators to Values, including
+// the assignment.
+#pragma once
+#include <cstdint>
+
+#include "engine/types.h"
+#include "interface/run_context.h"
+
+namespace mx {
+
+enum OperatorNumber : int8_t {
+    kOpLessEqual = 1, kOpGreaterEqual, kOpNotEqual, kOpEqual, kOpLess, kOpGreater,
+    kOpAssign, kOpAdd, kOpSubtract, kOpMultiply, kOpDivide, kOpAnd, kOpOr,
+    kOpNot, kOpNegate,
+    kOpBracket = 99,  // the marker an opening bracket pushes; never matched
+};
+
+struct OperatorRow {
+    const char16_t *symbol;
+    int8_t length;
+    int8_t number;
+    int8_t precedence;
+    int8_t arity;
+};
+
+// The row whose symbol is a prefix of text among the rows of the given arity
+// (1 or 2), tried in table order; absent when none matches.
+const OperatorRow *opMatch(const char16_t *text, int32_t arity);
+
+// The bracket marker row.
+const OperatorRow *opBracket();
+
+// Applies row to left (and right for binary rows). Consumes both operands.
+// Returns a new owning Value, or absent with the error set.
+Value *opApply(RunContext &ctx, const OperatorRow *row, Value *left, Value *right);
+
+}  // namespace mx

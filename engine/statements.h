@@ -1,0 +1,26 @@
+// The statement executor: blocks, if, while, break, exit, declarations and
+// formula statements, in run mode (taking effect) or skip mode (read and
+// checked for form only).
+#pragma once
+#include <cstdint>
+
+#include "engine/declare.h"
+#include "interface/run_context.h"
+
+namespace mx {
+
+enum StatementResult : int32_t {
+    kStError = -1,
+    kStNormal = 0,
+    kStBreak = 1,
+    kStExit = 2,
+    kStEnd = 3,  // the statement was end, ende or }
+};
+
+// Reads and executes one statement. Returns a StatementResult.
+int32_t stExecute(RunContext &ctx, Mode mode);
+
+// Executes statements up to the block's end. Returns normal, break, exit or error.
+int32_t stBlock(RunContext &ctx, Mode mode);
+
+}  // namespace mx

@@ -1,0 +1,49 @@
+// Core types of the interpreter: the Value, a function table row and the host
+// callbacks. Their layouts are the ones of the public header (include/morvix.h);
+// interface/layout_check.cpp proves that, so the core needs no Windows headers.
+#pragma once
+#include <cstddef>
+#include <cstdint>
+
+namespace mx {
+
+#if defined(_WIN32) && !defined(_WIN64)
+#define MX_CALLCONV __stdcall
+#else
+#define MX_CALLCONV
+#endif
+
+using ModuleHandle = void *;
+using WindowHandle = void *;
+
+enum ValueKind : int32_t { kReference = 1, kOwning = 2 };
+enum ValueType : int32_t { kChar = 1, kLong = 2, kDouble = 3 };
+
+// The typed value of the language; see the public MX_VALUE.
+struct Value {
+    int32_t kind;
+    int32_t type;
+    void *data;
+    int32_t count;  // 0 scalar, n vector
+    const char16_t *varName;
+    int32_t varCount;
+    int32_t index;
+};
+
+// One row of a function table; see the public MX_FUNCTION_ROW.
+struct FunctionRow {
+    const char16_t *name;
+    uint32_t identifier;
+    const char16_t *signature;   // absent: a named constant
+    const char16_t *paramNames;  // for hosts only; never read by the interpreter
+};
+
+using HostCallback = int32_t(MX_CALLCONV *)(int32_t number, Value **args, int32_t count,
+                                            intptr_t callbackValue);
+using AbortCallback = int32_t(MX_CALLCONV *)();
+
+// Identifier bits: the function number and the German-spelling flag.
+constexpr uint32_t kFunctionNumberMask = 0xFFFF;
+constexpr uint32_t kSpellingFlag = 0x10000;
+
+}  // namespace mx

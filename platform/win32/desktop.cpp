@@ -1,0 +1,29 @@
+#include <windows.h>
+
+#include "platform/platform.h"
+
+namespace mx {
+
+WindowHandle mxp_TopLevelWindow(WindowHandle window) {
+    HWND w = static_cast<HWND>(window);
+    while (w) {
+        HWND parent = GetParent(w);
+        if (!parent) break;
+        w = parent;
+    }
+    return w;
+}
+
+WindowHandle mxp_ActiveWindow() { return GetActiveWindow(); }
+
+uint32_t mxp_RegisterWindowMessage(const char16_t *name) {
+    return RegisterWindowMessageW(reinterpret_cast<const wchar_t *>(name));
+}
+
+int32_t mxp_MessageBox(WindowHandle owner, const char16_t *text, const char16_t *title,
+                       uint32_t style) {
+    return MessageBoxW(static_cast<HWND>(owner), reinterpret_cast<const wchar_t *>(text),
+                       reinterpret_cast<const wchar_t *>(title), style);
+}
+
+}  // namespace mx

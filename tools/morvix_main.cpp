@@ -1,0 +1,30 @@
+// morvix: runs a macro on Linux. Boxes the library shows go to standard error.
+#include <cstdio>
+
+#include "engine/utf8.h"
+#include "host_common.h"
+
+int main(int argc, char **argv) {
+    std::vector<std::u16string> args;
+    for (int i = 1; i < argc; ++i) args.push_back(mx::fromUtf8(argv[i]));
+    HostOptions o;
+    std::string error;
+    if (!hostParseArgs(args, o, error)) {
+        std::fprintf(stderr, "morvix: %s\n%s", error.c_str(), hostUsage());
+        return 64;
+    }
+    hostSetAbortAfter(o.abortAfter);
+    MX_ABORT_CALLBACK abort = o.abortAfter >= 0 ? hostAbort : nullptr;
+    LONG r;
+    if (o.memory) {
+        r = o.hasTitle ? Run_MemMacroExt(nullptr, nullptr, o.text.c_str(), o.title.c_str(), kHostTable,
+                                         hostFunction, abort, 0, LONG(o.country), 0)
+                       : Run_MemMacro(nullptr, nullptr, o.text.c_str(), kHostTable, hostFunction,
+                                      abort, 0, LONG(o.country), 0);
+    } else {
+        std::u16string cmd = hostMacroCommand(o);
+        r = Run_Macro(nullptr, nullptr, cmd.c_str(), kHostTable, hostFunction, abort, 0,
+                      LONG(o.country));
+    }
+    return hostExitStatus(r);
+}

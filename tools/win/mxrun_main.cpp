@@ -1,0 +1,65 @@
+// mxrun.exe: runs a macro on Windows through morvix32w.dll, loaded with
+// LoadLibraryW like any host would. Options and output as the native morvix.
+#include <windows.h>
+
+#include <cstdio>
+#include <fcntl.h>
+#include <io.h>
+
+#include "host_common.h"
+#include "unattended.h"
+
+namespace {
+
+struct Exports {
+    decltype(&Run_Macro) runMacro;
+    decltype(&Run_MemMacro) runMemMacro;
+    decltype(&Run_MemMacroExt) runMemMacroExt;
+};
+
+bool load(Exports &e) {
+    HMODULE dll = LoadLibraryW(L"morvix32w.dll");
+    if (!dll) return false;
+    e.runMacro = reinterpret_cast<decltype(&Run_Macro)>(GetProcAddress(dll, "Run_Macro"));
+    e.runMemMacro = reinterpret_cast<decltype(&Run_MemMacro)>(GetProcAddress(dll, "Run_MemMacro"));
+    e.runMemMacroExt =
+        reinterpret_cast<decltype(&Run_MemMacroExt)>(GetProcAddress(dll, "Run_MemMacroExt"));
+    return e.runMacro && e.runMemMacro && e.runMemMacroExt;
+}
+
+const WCHAR *w(const std::u16string &s) { return reinterpret_cast<const WCHAR *>(s.c_str()); }
+
+}  // namespace
+
+int wmain(int argc, wchar_t **argv) {
+    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
+    std::vector<std::u16string> args;
+    for (int i = 1; i < argc; ++i) args.emplace_back(reinterpret_cast<const char16_t *>(argv[i]));
+    HostOptions o;
+    std::string error;
+    if (!hostParseArgs(args, o, error)) {
+        std::fprintf(stderr, "mxrun: %s\n%s", error.c_str(), hostUsage());
+        return 64;
+    }
+    Exports e;
+    if (!load(e)) {
+        std::fprintf(stderr, "mxrun: morvix32w.dll cannot be loaded\n");
+        return 70;
+    }
+    if (o.unattended) unattendedStart();
+    hostSetAbortAfter(o.abortAfter);
+    MX_ABORT_CALLBACK abort = o.abortAfter >= 0 ? hostAbort : nullptr;
+    LONG r;
+    if (o.memory) {
+        r = o.hasTitle ? e.runMemMacroExt(GetModuleHandleW(nullptr), nullptr, w(o.text), w(o.title),
+                                          kHostTable, hostFunction, abort, 0, o.country, 0)
+                       : e.runMemMacro(GetModuleHandleW(nullptr), nullptr, w(o.text), kHostTable,
+                                       hostFunction, abort, 0, o.country, 0);
+    } else {
+        std::u16string cmd = hostMacroCommand(o);
+        r = e.runMacro(GetModuleHandleW(nullptr), nullptr, w(cmd), kHostTable, hostFunction, abort, 0,
+                       o.country);
+    }
+    return hostExitStatus(r);
+}

@@ -1,0 +1,51 @@
+#include "unattended.h"
+
+#include <windows.h>
+
+#include <string>
+
+#include "engine/utf8.h"
+
+namespace {
+
+HHOOK hook;
+
+std::u16string windowText(HWND w) {
+    int n = GetWindowTextLengthW(w);
+    std::wstring s(size_t(n) + 1, L'\0');
+    GetWindowTextW(w, s.data(), n + 1);
+    s.resize(size_t(n));
+    return std::u16string(s.begin(), s.end());
+}
+
+bool isDialog(HWND w) {
+    wchar_t cls[16];
+    return GetClassNameW(w, cls, 16) && lstrcmpW(cls, L"#32770") == 0;
+}
+
+// Once the box is shown: report it and press its default button.
+void CALLBACK answer(HWND w, UINT, UINT_PTR id, DWORD) {
+    KillTimer(w, id);
+    HWND textControl = GetDlgItem(w, 0xFFFF);
+    std::u16string title = windowText(w);
+    std::u16string text = textControl ? windowText(textControl) : std::u16string();
+    std::string line = mx::toUtf8(title.c_str()) + ": " + mx::toUtf8(text.c_str()) + "\n";
+    DWORD written;
+    WriteFile(GetStdHandle(STD_ERROR_HANDLE), line.data(), DWORD(line.size()), &written, nullptr);
+    LRESULT def = SendMessageW(w, DM_GETDEFID, 0, 0);
+    WORD button = HIWORD(def) == DC_HASDEFID ? LOWORD(def) : IDOK;
+    PostMessageW(w, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
+}
+
+LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HCBT_ACTIVATE && isDialog(reinterpret_cast<HWND>(wParam)))
+        SetTimer(reinterpret_cast<HWND>(wParam), 1, 10, answer);
+    return CallNextHookEx(hook, code, wParam, lParam);
+}
+
+}  // namespace
+
+bool unattendedStart() {
+    hook = SetWindowsHookExW(WH_CBT, watch, nullptr, GetCurrentThreadId());
+    return hook != nullptr;
+}
