@@ -36,6 +36,11 @@ enum : uint32_t {
 int32_t mxp_MessageBox(WindowHandle owner, const char16_t *text, const char16_t *title,
                        uint32_t style);
 
+// Where the native build's boxes go instead of standard error (tests
+// capture them); absent restores standard error. No effect on Windows.
+using BoxSink = void (*)(const char16_t *title, const char16_t *text);
+void mxp_SetBoxSink(BoxSink sink);
+
 // The currently active window of the thread's desktop, or absent.
 WindowHandle mxp_ActiveWindow();
 

@@ -14,6 +14,8 @@ WindowHandle mxp_TopLevelWindow(WindowHandle window) {
     return w;
 }
 
+void mxp_SetBoxSink(BoxSink) {}
+
 WindowHandle mxp_ActiveWindow() { return GetActiveWindow(); }
 
 uint32_t mxp_RegisterWindowMessage(const char16_t *name) {

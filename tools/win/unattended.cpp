@@ -9,6 +9,12 @@
 namespace {
 
 HHOOK hook;
+BoxReport reportTo;
+
+void toStandardError(const std::string &line) {
+    DWORD written;
+    WriteFile(GetStdHandle(STD_ERROR_HANDLE), line.data(), DWORD(line.size()), &written, nullptr);
+}
 
 std::u16string windowText(HWND w) {
     int n = GetWindowTextLengthW(w);
@@ -30,8 +36,7 @@ void CALLBACK answer(HWND w, UINT, UINT_PTR id, DWORD) {
     std::u16string title = windowText(w);
     std::u16string text = textControl ? windowText(textControl) : std::u16string();
     std::string line = mx::toUtf8(title.c_str()) + ": " + mx::toUtf8(text.c_str()) + "\n";
-    DWORD written;
-    WriteFile(GetStdHandle(STD_ERROR_HANDLE), line.data(), DWORD(line.size()), &written, nullptr);
+    reportTo(line);
     LRESULT def = SendMessageW(w, DM_GETDEFID, 0, 0);
     WORD button = HIWORD(def) == DC_HASDEFID ? LOWORD(def) : IDOK;
     PostMessageW(w, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
@@ -45,7 +50,9 @@ LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-bool unattendedStart() {
+bool unattendedStart(BoxReport report) {
+    reportTo = report ? report : toStandardError;
+    if (hook) return true;
     hook = SetWindowsHookExW(WH_CBT, watch, nullptr, GetCurrentThreadId());
     return hook != nullptr;
 }

@@ -3,5 +3,11 @@
 // button, so that unattended runs print what the native host prints.
 #pragma once
 
-// Installs the watcher on the calling thread. Returns false when it cannot.
-bool unattendedStart();
+#include <string>
+
+// Receives each box as one UTF-8 line "TITLE: TEXT\n".
+using BoxReport = void (*)(const std::string &line);
+
+// Installs the watcher on the calling thread; boxes go to report (absent:
+// standard error). Returns false when it cannot.
+bool unattendedStart(BoxReport report = nullptr);

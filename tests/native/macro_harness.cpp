@@ -1,0 +1,81 @@
+#include "macro_harness.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "engine/utf8.h"
+#include "platform/platform.h"
+#include "tools/host_common.h"
+
+namespace {
+std::string captured;
+
+void captureBox(const char16_t *title, const char16_t *text) {
+    captured += mx::toUtf8(title) + ": " + mx::toUtf8(text) + "\n";
+}
+
+LONG CALLBACK capturePrint(LONG number, MX_VALUE **args, LONG count, LONG_PTR) {
+    if (number == 1 && count == 1) captured += hostFormatValue(args[0]) + "\n";
+    return 0;
+}
+
+template <class F>
+MacroRun capture(F run) {
+    captured.clear();
+    mx::mxp_SetBoxSink(captureBox);
+    MacroRun r;
+    r.result = run();
+    mx::mxp_SetBoxSink(nullptr);
+    r.output = captured;
+    return r;
+}
+}  // namespace
+
+void harnessPrint(const std::string &line) { captured += line + "\n"; }
+
+MacroRun runMemory(const std::u16string &text, int32_t country, const char16_t *title, long abortAfter) {
+    hostSetAbortAfter(abortAfter);
+    MX_ABORT_CALLBACK abort = abortAfter >= 0 ? hostAbort : nullptr;
+    return capture([&] {
+        return Run_MemMacroExt(nullptr, nullptr, text.c_str(), title, kHostTable, capturePrint, abort,
+                               0, country, 0);
+    });
+}
+
+MacroRun runFile(const std::u16string &command, int32_t country, long abortAfter) {
+    hostSetAbortAfter(abortAfter);
+    MX_ABORT_CALLBACK abort = abortAfter >= 0 ? hostAbort : nullptr;
+    return capture([&] {
+        return Run_Macro(nullptr, nullptr, command.c_str(), kHostTable, capturePrint, abort, 0, country);
+    });
+}
+
+MacroRun runMemoryWithHost(const std::u16string &text, const MX_FUNCTION_ROW *table,
+                           MX_HOST_CALLBACK callback) {
+    return capture([&] {
+        return Run_MemMacroExt(nullptr, nullptr, text.c_str(), nullptr, table, callback, nullptr, 0, 1, 0);
+    });
+}
+
+std::string scratchDir() {
+    char tmpl[] = "/tmp/mxtest.XXXXXX";
+    char *dir = mkdtemp(tmpl);
+    return dir ? std::string(dir) : std::string("/tmp");
+}
+
+void writeFile(const std::string &path, const std::string &bytes) {
+    std::ofstream f(path, std::ios::binary);
+    f << bytes;
+}
+
+std::string readFile(const std::string &path) {
+    std::ifstream f(path, std::ios::binary);
+    std::stringstream s;
+    s << f.rdbuf();
+    return s.str();
+}
+
+std::u16string u16(const std::string &utf8) { return mx::fromUtf8(utf8); }

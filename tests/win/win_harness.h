@@ -1,0 +1,45 @@
+// Running macros through morvix32w.dll the way a host does: the DLL is
+// loaded with LoadLibraryW, Print output and every box (read by a CBT hook
+// and closed with its default button) are captured in order.
+#pragma once
+#include <windows.h>
+
+#include <string>
+
+#include "morvix.h"
+
+struct WinExports {
+    HMODULE dll;
+    decltype(&Run_Macro) runMacro;
+    decltype(&Run_MemMacro) runMemMacro;
+    decltype(&Run_MemMacroExt) runMemMacroExt;
+    decltype(&Get_MacroHeader) getMacroHeader;
+    decltype(&Get_MacroLib_Version) getMacroLibVersion;
+    decltype(&Get_MacroLib_InternalFunctionList) getFunctionList;
+    decltype(&Morvix_GetVersion) getVersion;
+    decltype(&Morvix_GetInstance) getInstance;
+    decltype(&Morvix_GetTlxModuleName) getTlxModuleName;
+};
+
+// The loaded library's exports (loaded once).
+const WinExports &dll();
+
+struct WinRun {
+    LONG result = 0;
+    std::string output;  // Print lines and "TITLE: TEXT" box lines, UTF-8
+};
+
+WinRun winRunMemory(const std::u16string &text, const wchar_t *title = nullptr, long abortAfter = -1,
+                    HWND window = nullptr);
+WinRun winRunFile(const std::u16string &command, int country = 1, long abortAfter = -1,
+                  HWND window = nullptr,
+                  const MX_FUNCTION_ROW *table = nullptr, MX_HOST_CALLBACK callback = nullptr);
+
+// Appends a line to the captured output (for host callbacks of tests).
+void winPrint(const std::string &line);
+
+// A fresh empty directory (Windows path).
+std::wstring winScratchDir();
+
+std::string winReadFile(const std::wstring &path);
+void winWriteFile(const std::wstring &path, const std::string &bytes);
