@@ -1,15 +1,75 @@
-// Dispatch entries of the language built-ins.
+// Dispatch entries of the language's own built-ins: variables, nested runs,
+// macro parameters, the string escape and tracing.
 #include "builtins/args.h"
 #include "builtins/dispatch.h"
+#include "builtins/language/nested_run.h"
+#include "builtins/language/trace_switches.h"
+#include "engine/u16.h"
+#include "engine/variables.h"
+#include "interface/process.h"
 
 namespace mx {
 
 namespace {
+
+// Dim(X): the highest valid index of the argument, 0 for a scalar.
+int32_t biDim(RunContext &, Value **a, int32_t) { return a[0]->count > 0 ? a[0]->count - 1 : 0; }
+
+// IsDeclared(C[]): 1 when a static variable of that name exists.
+int32_t biIsDeclared(RunContext &, Value **a, int32_t) {
+    return varFind(gProcess.statics, argText(a[0])) ? 1 : 0;
+}
+
+// Call(C[]).
+int32_t biCall(RunContext &ctx, Value **a, int32_t) { return lgCall(ctx, argText(a[0])); }
+
+// CallWithParams(C[] x 6).
+int32_t biCallWithParams(RunContext &ctx, Value **a, int32_t) {
+    const char16_t *parts[6];
+    for (int32_t i = 0; i < 6; ++i) parts[i] = argText(a[i]);
+    char16_t command[kCallWithParamsCapacity];
+    lgBuildCommand(parts, command, kCallWithParamsCapacity);
+    return lgCall(ctx, command);
+}
+
+// GetMacroParameter(L, *C[]).
+int32_t biGetMacroParameter(RunContext &ctx, Value **a, int32_t) {
+    return lgGetMacroParameter(ctx, argLong(a[0]), argText(a[1]), argCapacity(a[1]));
+}
+
+// SetStringEscape(L): the previous escape character's code.
+int32_t biSetStringEscape(RunContext &ctx, Value **a, int32_t) {
+    char16_t previous = ctx.escape;
+    ctx.escape = char16_t(uint32_t(argLong(a[0])) & 0xFFFF);
+    return previous;
+}
+
+int32_t biTraceDialog(RunContext &ctx, Value **a, int32_t) {
+    return lgTraceSwitch(ctx, kTraceCallsToBox | kTraceAssignToBox, argLong(a[0]));
+}
+int32_t biTraceFunction(RunContext &ctx, Value **a, int32_t) {
+    return lgTraceSwitch(ctx, kTraceCallsToFile, argLong(a[0]));
+}
+int32_t biTraceAssign(RunContext &ctx, Value **a, int32_t) {
+    return lgTraceSwitch(ctx, kTraceAssignToFile, argLong(a[0]));
+}
+int32_t biTraceFile(RunContext &ctx, Value **a, int32_t) { return lgTraceFile(ctx, argText(a[0])); }
+
 const DispatchEntry kEntries[] = {
-    {0, nullptr},  // placeholder: no entries yet
+    {28, biDim},
+    {31, biIsDeclared},
+    {32, biCall},
+    {33, biGetMacroParameter},
+    {82, biSetStringEscape},
+    {96, biTraceDialog},
+    {97, biTraceFunction},
+    {98, biTraceAssign},
+    {99, biTraceFile},
+    {192, biCallWithParams},
 };
+
 }  // namespace
 
-const DispatchFamily kLanguageFamily = {"language", kEntries, 0};
+const DispatchFamily kLanguageFamily = {"language", kEntries, sizeof(kEntries) / sizeof(kEntries[0])};
 
 }  // namespace mx

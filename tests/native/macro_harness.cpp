@@ -79,3 +79,25 @@ std::string readFile(const std::string &path) {
 }
 
 std::u16string u16(const std::string &utf8) { return mx::fromUtf8(utf8); }
+
+#include "engine/types.h"
+#include "interface/run_driver.h"
+
+CoreRun runCore(const std::u16string &text, bool file) {
+    mx::RunRequest req{};
+    (file ? req.macroCommand : req.macroText) = text.c_str();
+    req.macroTitle = req.macroCommand;
+    req.hostTable = reinterpret_cast<const mx::FunctionRow *>(kHostTable);
+    req.hostCallback = reinterpret_cast<mx::HostCallback>(&capturePrint);
+    req.countryCode = 1;
+    mx::RunContext ctx;
+    mx::runInit(ctx, req);
+    CoreRun r;
+    MacroRun m = capture([&] { return mx::runDriver(ctx); });
+    r.result = m.result;
+    r.output = m.output;
+    r.errorCode = ctx.errorCode;
+    r.errorArg = mx::toUtf8(ctx.errorArg);
+    r.line = ctx.line;
+    return r;
+}

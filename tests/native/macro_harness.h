@@ -38,3 +38,16 @@ std::string readFile(const std::string &path);
 
 // UTF-8 to UTF-16 for test literals.
 std::u16string u16(const std::string &utf8);
+
+// A run of the core driver itself (no box), for checking the error record.
+struct CoreRun {
+    int32_t result = 0;      // 0 or -1 from the driver
+    int32_t errorCode = 0;
+    std::string errorArg;    // UTF-8
+    int32_t line = 0;
+    std::string output;      // Print lines
+};
+
+// Runs a memory macro (or, with file set, the macro command) through the run
+// driver with the Print host table.
+CoreRun runCore(const std::u16string &text, bool file = false);

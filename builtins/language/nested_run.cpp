@@ -1,0 +1,45 @@
+#include "builtins/language/nested_run.h"
+
+#include <new>
+
+#include "engine/command_words.h"
+#include "engine/errors.h"
+#include "engine/eval.h"
+#include "engine/u16.h"
+#include "interface/run_driver.h"
+
+namespace mx {
+
+int32_t lgCall(RunContext &ctx, const char16_t *command) {
+    // The nested run inherits host data, title, decimal separator and dialog
+    // settings; the run driver starts its locals, files, trace and text afresh.
+    RunContext *nested = new (std::nothrow) RunContext(ctx);
+    if (!nested) return -1;
+    nested->macroCommand = command;
+    nested->macroText = nullptr;
+    int32_t result = 0;
+    if (!evEnter(*nested) || runDriver(*nested) != 0) {
+        errShowMacroError(*nested);
+        result = -1;
+    }
+    delete nested;
+    return result;
+}
+
+void lgBuildCommand(const char16_t *const parts[6], char16_t *buf, int32_t capacity) {
+    u16Copy(buf, capacity, u"");
+    for (int32_t i = 0; i < 6; ++i) {
+        if (i) u16Append(buf, capacity, u" ");
+        u16Append(buf, capacity, u"\"");
+        u16Append(buf, capacity, parts[i]);
+        u16Append(buf, capacity, u"\"");
+    }
+}
+
+int32_t lgGetMacroParameter(const RunContext &ctx, int32_t n, char16_t *text, int32_t capacity) {
+    if (!ctx.macroCommand) return 1;
+    if (n < 0) return 0;
+    return commandWord(ctx.macroCommand, n, text, capacity) ? 0 : 1;
+}
+
+}  // namespace mx
