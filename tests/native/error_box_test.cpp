@@ -1,0 +1,49 @@
+// The macro error box: the frame, the first "%s" filled in when it fits, the
+// line number and the macro title.
+#include <gtest/gtest.h>
+
+#include "engine/errors.h"
+#include "engine/utf8.h"
+#include "macro_harness.h"
+
+TEST(ErrorBox, NamesLineMacroAndMessage) {
+    std::string dir = scratchDir();
+    writeFile(dir + "/a.mac", "Macro \"A\" begin\n\n\n\n\n\nzahl1 = 3;\nend\n");
+    MacroRun r = runFile(u16(dir + "/a.mac 1 2"));
+    EXPECT_EQ(r.result, -1);
+    EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 7 des Makros " + dir +
+                            "/a.mac 1 2\n\nVariable 'zahl1' ist nicht deklariert\n\n");
+    writeFile(dir + "/b.mac", "macro \"B\" begin end");
+    EXPECT_EQ(runFile(u16(dir + "/b.mac")).output,
+              "Makrofehler: Fehler in Zeile 1 des Makros " + dir + "/b.mac\n\nSchlüsselwort 'Macro' fehlt\n\n");
+}
+
+TEST(ErrorBox, MemoryMacrosShowTheirTitleOrNothing) {
+    EXPECT_EQ(runMemory(u"x = 1;", 1, u"Startup").output,
+              "Makrofehler: Fehler in Zeile 1 des Makros Startup\n\nVariable 'x' ist nicht deklariert\n\n");
+    EXPECT_EQ(runMemory(u"int x;\nx = 1 / 0;").output,
+              "Makrofehler: Fehler in Zeile 2 des Makros \n\nDivision durch Null\n\n");
+}
+
+TEST(ErrorBox, ArgumentsAreCutAndOnlyFilledInWhenTheyFit) {
+    mx::RunContext ctx;
+    std::u16string longArg(200, u'a');
+    mx::errSet(ctx, 125, longArg.c_str());
+    EXPECT_EQ(mx::toUtf8(ctx.errorArg), std::string(127, 'a'));
+    char16_t text[300];
+    mx::errFormatMessage(ctx, text, 300);
+    EXPECT_EQ(mx::toUtf8(text), "Variable '" + std::string(127, 'a') + "' ist nicht deklariert");
+    // 156 is long enough that a 127-character argument does not fit in 200 units.
+    mx::errSet(ctx, 156, longArg.c_str());
+    mx::errFormatMessage(ctx, text, 300);
+    EXPECT_EQ(mx::toUtf8(text), "s Die Zieldatei der Datenbankselektion  '%s'  kann nicht angelegt werden.");
+    mx::errSet(ctx, 156, u"x.txt");
+    mx::errFormatMessage(ctx, text, 300);
+    EXPECT_EQ(mx::toUtf8(text), "s Die Zieldatei der Datenbankselektion  'x.txt'  kann nicht angelegt werden.");
+    mx::errSet(ctx, 134, u"ignored");
+    mx::errFormatMessage(ctx, text, 300);
+    EXPECT_EQ(mx::toUtf8(text), "Division durch Null");
+    mx::errSet(ctx, 5555, u"x");
+    EXPECT_EQ(mx::errFormatMessage(ctx, text, 300), 0);
+}
+

@@ -1,0 +1,163 @@
+// Host functions: lookup, argument reading, checking and binding against the
+// signature, the callback, the sort check and the abort callback.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "engine/utf8.h"
+#include "macro_harness.h"
+
+namespace {
+
+const MX_FUNCTION_ROW kRows[] = {
+    {u"Bad", 1, u"Q", u"Nothing"},       {u"Chr", 2, u"C", u"Char"},
+    {u"Dbl", 3, u"D", u"Double"},        {u"Echo", 4, u"X", u"Any"},
+    {u"HOSTCONST", 4711, nullptr, nullptr}, {u"LVec", 5, u"L[]", u"Vector"},
+    {u"Long", 0x10006, u"L", u"Long"},   {u"RefDouble", 7, u"*D", u"Double"},
+    {u"RefLong", 8, u"*L", u"Long"},     {u"RefText", 9, u"*C[]", u"Text"},
+    {u"Ten", 12, u"LLLLLLLLLL", u""},   {u"Text", 10, u"C[]", u"Text"},
+    {u"Two", 11, u"LL", u"A, B"},
+    {nullptr, 0, nullptr, nullptr},
+};
+
+const char *kindName(const MX_VALUE *v) { return v->kind == MX_KIND_REFERENCE ? "ref" : "own"; }
+const char *typeName(const MX_VALUE *v) {
+    return v->type == MX_TYPE_CHAR ? "char" : v->type == MX_TYPE_LONG ? "long" : "double";
+}
+
+// Reports each call as "fn N: kind type count ..." and writes through
+// by-reference arguments.
+LONG CALLBACK host(LONG number, MX_VALUE **args, LONG count, LONG_PTR) {
+    std::string line = "fn " + std::to_string(number) + ":";
+    for (LONG i = 0; i < count; ++i)
+        line += std::string(" ") + kindName(args[i]) + " " + typeName(args[i]) + " " +
+                std::to_string(args[i]->count);
+    harnessPrint(line);
+    if (number == 8) *static_cast<LONG *>(args[0]->data) = 42;
+    if (number == 7) *static_cast<double *>(args[0]->data) = 2.5;
+    if (number == 9 || number == 10) static_cast<char16_t *>(args[0]->data)[0] = u'Z';
+    if (number == 2) harnessPrint(std::to_string(*static_cast<char16_t *>(args[0]->data)));
+    if (number == 6) harnessPrint(std::to_string(*static_cast<LONG *>(args[0]->data)));
+    return number * 10;
+}
+
+LONG CALLBACK printer(LONG, MX_VALUE **args, LONG, LONG_PTR) {
+    const MX_VALUE *v = args[0];
+    harnessPrint(v->type == MX_TYPE_LONG ? std::to_string(*static_cast<LONG *>(v->data))
+                                          : mx::toUtf8(static_cast<const char16_t *>(v->data)));
+    return 0;
+}
+
+// The host rows plus Print (number 99) for showing results.
+std::vector<MX_FUNCTION_ROW> withPrint() {
+    std::vector<MX_FUNCTION_ROW> rows(std::begin(kRows), std::end(kRows) - 1);
+    rows.insert(rows.begin() + 7, MX_FUNCTION_ROW{u"Print", 99, u"X", u"Value"});
+    rows.push_back({nullptr, 0, nullptr, nullptr});
+    return rows;
+}
+
+LONG CALLBACK both(LONG number, MX_VALUE **args, LONG count, LONG_PTR v) {
+    return number == 99 ? printer(number, args, count, v) : host(number, args, count, v);
+}
+
+MacroRun run(const std::string &body) {
+    static std::vector<MX_FUNCTION_ROW> rows = withPrint();
+    return runMemoryWithHost(u16(body), rows.data(), both);
+}
+
+std::string boxFor(const std::string &message) {
+    return "Makrofehler: Fehler in Zeile 1 des Makros \n\n" + message + "\n\n";
+}
+
+}  // namespace
+
+TEST(HostCall, BindsEachDescriptorKind) {
+    const struct {
+        const char *body;
+        const char *out;
+    } cases[] = {
+        {"int x; x = Long(3.9); Print(x);", "fn 6: own long 0\n3\n60\n"},
+        {"Chr(66);", "fn 2: own char 0\n66\n"},
+        {"Chr('a');", "fn 2: own char 0\n97\n"},
+        {"Dbl(2);", "fn 3: own double 0\n"},
+        {"int v[3]; Echo(v);", "fn 4: ref long 3\n"},
+        {"Echo(\"ab\");", "fn 4: own char 3\n"},
+        {"Long(1, );", "fn 6: own long 0\n1\n"},
+        {"int n; RefLong(n); Print(n);", "fn 8: ref long 0\n42\n"},
+        {"float f; RefDouble(f);", "fn 7: ref double 0\n"},
+        {"char s[4]; s = \"abc\"; Text(s); Print(s);", "fn 10: ref char 4\nZbc\n"},
+        {"char s[4]; s = \"abc\"; RefText(s); Print(s);", "fn 9: ref char 4\nZbc\n"},
+        {"Text(\"abc\");", "fn 10: own char 4\n"},
+        {"int v[2]; LVec(v);", "fn 5: ref long 2\n"},
+        {"Echo(1,);", "fn 4: own long 0\n"},
+        {"Print(HOSTCONST);", "4711\n"},
+        {"int x; x = Two(1, Two(2, 3)) + 1; Print(x);", "fn 11: own long 0 own long 0\n"
+                                                         "fn 11: own long 0 own long 0\n111\n"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.body);
+        MacroRun r = run(c.body);
+        EXPECT_EQ(r.result, 0);
+        EXPECT_EQ(r.output, c.out);
+    }
+}
+
+TEST(HostCall, BindingErrors) {
+    const struct {
+        const char *body;
+        const char *message;
+    } cases[] = {
+        {"Long(\"a\");", "Parameter '' muß ein Skalar sein"},
+        {"Text(5);", "Parameter '' muß eine Vektorvariable sein"},
+        {"RefLong(5);", "Parameter '' muß eine Variable sein"},
+        {"float d; RefLong(d);", "Parameter '' hat falschen Typ"},
+        {"int v[2]; Text(v);", "Parameter '' hat falschen Typ"},
+        {"Bad(1);", "Fehlerhafte Syntax in Funktionstabelle"},
+        {"Two(1);", "Funktion 'Two' hat zu wenig Parameter"},
+        {"Bad();", "Funktion 'Bad' hat zu wenig Parameter"},
+        {"Two(1, 2, 3);", "Funktion 'Two' hat zu viele Parameter"},
+        {"Ten(1,2,3,4,5,6,7,8,9,10,undeclared);", "Funktion 'Ten' hat zu viele Parameter"},
+        {"Echo(1, 2);", "Funktion 'Echo' hat zu viele Parameter"},
+        {"Echo();", "Funktion 'Echo' hat zu wenig Parameter"},
+        {"Long + 1;", "Es wurde das Zeichen '(' erwartet"},
+        {"Long(undeclared);", "Variable 'undeclared' ist nicht deklariert"},
+        {"Echo(,1);", "Operator fehlt"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.body);
+        MacroRun r = run(c.body);
+        EXPECT_EQ(r.result, -1);
+        EXPECT_EQ(r.output, boxFor(c.message));
+    }
+}
+
+TEST(HostCall, TenArgumentsAreAccepted) {
+    MacroRun r = run("Ten(1,2,3,4,5,6,7,8,9,10);");
+    EXPECT_EQ(r.result, 0);
+    EXPECT_EQ(r.output.substr(0, 6), "fn 12:");
+}
+
+TEST(HostCall, TheHostTableMustAscendStrictly) {
+    const MX_FUNCTION_ROW equal[] = {{u"Abc", 1, u"", u""}, {u"Abc", 2, u"", u""}, {nullptr, 0, nullptr, nullptr}};
+    const MX_FUNCTION_ROW unordered[] = {{u"b", 1, u"", u""}, {u"B", 2, u"", u""}, {nullptr, 0, nullptr, nullptr}};
+    const MX_FUNCTION_ROW emptyName[] = {{u"", 1, u"", u""}, {nullptr, 0, nullptr, nullptr}};
+    EXPECT_EQ(runMemoryWithHost(u"x = 1;", equal, host).output, boxFor("Funktionsnamen nicht aufsteigend sortiert"));
+    EXPECT_EQ(runMemoryWithHost(u"x = 1;", unordered, host).result, -1);
+    EXPECT_EQ(runMemoryWithHost(u"x = 1;", emptyName, host).result, -1);
+    // The check comes before loading: an unsorted table fails even an empty macro file.
+    EXPECT_EQ(Run_Macro(nullptr, nullptr, u"/no/such/file.mac", equal, host, nullptr, 0, 1), -1);
+}
+
+TEST(HostCall, NoTableAndNoCallbackAreHarmless) {
+    EXPECT_EQ(runMemoryWithHost(u"int x; x = 1;", nullptr, nullptr).result, 0);
+    MacroRun r = runMemoryWithHost(u"int x; x = Two(1, 2) + 5; if (x != 5) y = 1;", kRows, nullptr);
+    EXPECT_EQ(r.result, 0);
+}
+
+TEST(HostCall, AbortEndsTheRunWithoutABox) {
+    MacroRun r = runMemory(u"Print(1); Print(2); Print(3);", 1, nullptr, 2);
+    EXPECT_EQ(r.result, -2);
+    EXPECT_EQ(r.output, "1\n2\n");
+    r = runMemory(u"Print(1);", 1, nullptr, 5);
+    EXPECT_EQ(r.result, 0);
+}
