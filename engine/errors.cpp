@@ -71,6 +71,7 @@ void errShowMacroError(const RunContext &ctx) {
     box.args[2] = message;
     box.style = 1;
     box.messageNumber = kMacroErrorMessageNumber;
+    box.owner = ctx.hostWindow;  // the box belongs to the host's window
     Kelvane_Message_BoxW(&box);
 }
 

@@ -10,6 +10,7 @@ namespace {
 
 HHOOK hook;
 BoxReport reportTo;
+HWND lastOwner;
 
 void toStandardError(const std::string &line) {
     DWORD written;
@@ -30,12 +31,12 @@ bool isDialog(HWND w) {
 }
 
 // Once the box is shown: report it and press its default button.
-void CALLBACK answer(HWND w, UINT, UINT_PTR id, DWORD) {
-    KillTimer(w, id);
+void answer(HWND w) {
     HWND textControl = GetDlgItem(w, 0xFFFF);
     std::u16string title = windowText(w);
     std::u16string text = textControl ? windowText(textControl) : std::u16string();
     std::string line = mx::toUtf8(title.c_str()) + ": " + mx::toUtf8(text.c_str()) + "\n";
+    lastOwner = GetWindow(w, GW_OWNER);
     reportTo(line);
     LRESULT def = SendMessageW(w, DM_GETDEFID, 0, 0);
     WORD button = HIWORD(def) == DC_HASDEFID ? LOWORD(def) : IDOK;
@@ -44,7 +45,7 @@ void CALLBACK answer(HWND w, UINT, UINT_PTR id, DWORD) {
 
 LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_ACTIVATE && isDialog(reinterpret_cast<HWND>(wParam)))
-        SetTimer(reinterpret_cast<HWND>(wParam), 1, 10, answer);
+        answer(reinterpret_cast<HWND>(wParam));
     return CallNextHookEx(hook, code, wParam, lParam);
 }
 
@@ -56,3 +57,5 @@ bool unattendedStart(BoxReport report) {
     hook = SetWindowsHookExW(WH_CBT, watch, nullptr, GetCurrentThreadId());
     return hook != nullptr;
 }
+
+void *unattendedLastOwner() { return lastOwner; }

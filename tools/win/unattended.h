@@ -11,3 +11,6 @@ using BoxReport = void (*)(const std::string &line);
 // Installs the watcher on the calling thread; boxes go to report (absent:
 // standard error). Returns false when it cannot.
 bool unattendedStart(BoxReport report = nullptr);
+
+// The owner window of the last box reported (absent when it had none).
+void *unattendedLastOwner();
