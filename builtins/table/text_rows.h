@@ -1,0 +1,76 @@
+// Rows of the text functions, in the order of their documentation table:
+// English row first, German row after it.
+#pragma once
+#include "builtins/table/row_helpers.h"
+
+namespace mx::rows {
+
+inline constexpr FunctionRow kTextRows[] = {
+    {u"LeftString", 15, u"C[]L*C[]", u"Source, Chars, Destination"},
+    {u"LinkerText", kDe | 15, u"C[]L*C[]", u"Quelle, Anzahl, Ziel"},
+    {u"RightString", 16, u"C[]L*C[]", u"Source, Chars, Destination"},
+    {u"RechterText", kDe | 16, u"C[]L*C[]", u"Quelle, Anzahl, Ziel"},
+    {u"MidString", 17, u"C[]LL*C[]", u"Source, Pos, Chars, Destination"},
+    {u"MittlererText", kDe | 17, u"C[]LL*C[]", u"Quelle, PosAb1, Anzahl, Ziel"},
+    {u"FillStringLeft", 18, u"*C[]LC", u"String, Lng, Char"},
+    {u"AuffüllenTextLinks", kDe | 18, u"*C[]LC", u"Text, Lng, Zeichen"},
+    {u"FillStringRight", 19, u"*C[]LC", u"String, Lng, Char"},
+    {u"AuffüllenTextRechts", kDe | 19, u"*C[]LC", u"Text, Lng, Zeichen"},
+    {u"StrCat", 20, u"*C[]C[]", u"String,AppendString"},
+    {u"TextAnhängen", kDe | 20, u"*C[]C[]", u"Text,AnhangText"},
+    {u"StrCmp", 21, u"C[]C[]", u"String,String"},
+    {u"TextVergleich", kDe | 21, u"C[]C[]", u"Text,Text"},
+    {u"StrStr", 22, u"C[]C[]", u"String,Findstring"},
+    {u"IstTextEnthalten", kDe | 22, u"C[]C[]", u"Text,Text"},
+    {u"StringToUpper", 23, u"*C[]", u"String"},
+    {u"TextGroß", kDe | 23, u"*C[]", u"Text"},
+    {u"StringToLower", 24, u"*C[]", u"String"},
+    {u"TextKlein", kDe | 24, u"*C[]", u"Text"},
+    {u"StrLen", 25, u"C[]", u"String"},
+    {u"TextLänge", kDe | 25, u"C[]", u"Text"},
+    {u"ToUpper", 26, u"L", u"Character"},
+    {u"ZeichenGroß", kDe | 26, u"L", u""},
+    {u"ToLower", 27, u"L", u"Character"},
+    {u"ZeichenKlein", kDe | 27, u"L", u""},
+    {u"StripControl", 30, u"*C[]", u"String"},
+    {u"LöscheSteuerzeichen", kDe | 30, u"*C[]", u"Text"},
+    {u"IsAlpha", 40, u"L", u"Character"},
+    {u"IstAlpha", kDe | 40, u"L", u"Zeichen"},
+    {u"IsAlphaNumeric", 41, u"L", u"Character"},
+    {u"IstAlphaNumerisch", kDe | 41, u"L", u"Zeichen"},
+    {u"AsciiToAnsi", 61, u"C[]*C[]", u"Source,Destination"},
+    {u"AsciiNachAnsi", kDe | 61, u"C[]*C[]", u"Quelle,Ziel"},
+    {u"AnsiNachAscii", kDe | 62, u"C[]*C[]", u"Quelle,Ziel"},  // German row only
+    {u"StrDelim", 70, u"*C[]*C[]L", u"String,Parameter,Delimiter"},
+    {u"TrimRight", 87, u"C[]L", u"String,Zeichen"},
+    {u"TrimRechts", kDe | 87, u"C[]L", u"Zeichenkette,Zeichen"},
+    {u"TrimLeft", 93, u"C[]L", u"String,Zeichen"},
+    {u"TrimLinks", kDe | 93, u"C[]L", u"Zeichenkette,Zeichen"},
+    {u"TransformString", 109, u"C[]C[]*C[]", u"TransformFile, SourceString, DestString"},
+    {u"TransformiereText", kDe | 109, u"C[]C[]*C[]", u"TransformDatei, QuellString, Ziel"},
+    {u"MakeText1", 120, u"*C[]C[]C[]", u"Result,Pattern,P1"},
+    {u"MakeText2", 121, u"*C[]C[]C[]C[]", u"Result,Pattern,P1,P2"},
+    {u"MakeText3", 122, u"*C[]C[]C[]C[]C[]", u"Result,Pattern,P1,P2,P3"},
+    {u"MakeText4", 125, u"*C[]C[]C[]C[]C[]C[]", u"Result,Pattern,P1,P2,P3,P4"},
+    // Flagged although it has no English twin.
+    {u"MakeText5", kDe | 126, u"*C[]C[]C[]C[]C[]C[]C[]", u"Result,Pattern,P1,P2,P3,P4,P5"},
+    {u"MakeTextInt", 148, u"*C[]C[]L", u"Result,Pattern,Int1"},
+    {u"IsDigitString", 124, u"C[]", u"String"},
+    {u"IsStringWhite", 146, u"C[]", u"String"},
+    {u"EncloseString", 129, u"*C[]L", u"String, CharValue"},
+    {u"GetSubString", 133, u"C[]L*C[]", u"List, Index, Result"},
+    {u"ReplaceString", 144, u"*C[]C[]C[]L", u"String,Find,Replace,Mode"},
+    {u"DecodeString", 149, u"*C[]", u"String"},
+    {u"CreateHash", 171, u"C[]L", u"String, UpperBound"},
+    {u"StripLeft", 174, u"*C[]L", u"String, Chars"},
+    {u"StripMid", 175, u"*C[]LL", u"String, Pos, Chars"},
+    {u"StripRight", 176, u"*C[]L", u"String, Chars"},
+    {u"FindString", 177, u"C[]C[]L", u"String, Find, Flags"},
+    {u"MD5", 181, u"C[]*C[]", u"String,MD5"},
+    {u"StripNonDigits", 190, u"*C[]", u"Text"},
+    // Without implementation: they take their arguments and yield 0.
+    {u"ScanFileForRegExp", 150, u"C[]C[]L*LL", u"File, RegExp, Start, MatchLng, Flags"},
+    {u"ScanBufferForRegExp", 151, u"C[]LC[]L*LL", u"Buffer, Size, RegExp, Start, MatchLng, Flags"},
+};
+
+}  // namespace mx::rows
