@@ -17,8 +17,8 @@ void check(const Case &c) {
     SCOPED_TRACE(c.body);
     CoreRun r = runCore(u16(c.body));
     EXPECT_EQ(r.errorCode, c.error) << r.errorArg;
-    if (c.error == 0) EXPECT_EQ(r.output, c.printed);
-    if (c.arg) EXPECT_EQ(r.errorArg, c.arg);
+    if (c.error == 0) { EXPECT_EQ(r.output, c.printed); }
+    if (c.arg) { EXPECT_EQ(r.errorArg, c.arg); }
 }
 
 }  // namespace

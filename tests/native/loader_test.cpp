@@ -91,7 +91,7 @@ TEST_F(FileFixture, HeaderAndBody) {
         CoreRun r = runCore(put("m.mac", c.text), true);
         EXPECT_EQ(r.errorCode, c.error);
         EXPECT_EQ(r.output, c.printed);
-        if (c.error == 117) EXPECT_EQ(r.errorArg, "Macro");
+        if (c.error == 117) { EXPECT_EQ(r.errorArg, "Macro"); }
     }
 }
 

@@ -18,8 +18,8 @@ void check(const Case &c) {
     CoreRun r = runCore(u16(c.body));
     EXPECT_EQ(r.errorCode, c.error) << r.errorArg;
     EXPECT_EQ(r.output, c.printed);
-    if (c.arg) EXPECT_EQ(r.errorArg, c.arg);
-    if (c.line) EXPECT_EQ(r.line, c.line);
+    if (c.arg) { EXPECT_EQ(r.errorArg, c.arg); }
+    if (c.line) { EXPECT_EQ(r.line, c.line); }
 }
 }  // namespace
 

@@ -151,7 +151,7 @@ TEST(BuiltinTable, ExactlyTheGermanRowsAndTheListedEnglishOnesCarryTheFlag) {
         if (r->signature && (r->identifier & mx::kSpellingFlag)) flagged.insert(r->name);
     EXPECT_EQ(flagged, expected);
     for (const FunctionRow *r : walkTable()) {
-        if (r->signature) EXPECT_EQ(r->identifier >> 17, 0u) << utf8(r->name);
+        if (r->signature) { EXPECT_EQ(r->identifier >> 17, 0u) << utf8(r->name); }
     }
 }
 

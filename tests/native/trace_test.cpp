@@ -55,7 +55,7 @@ TEST(TraceFormat, AssignmentTargets) {
     EXPECT_EQ(mx::toUtf8(buf), "Zeile 1    Zuweisung    v=Long [4]");
     mx::Value unnamed{mx::kReference, mx::kLong, v, 0, nullptr, 0, 0};
     mx::trFormatAssignment(1, &unnamed, buf, mx::kTraceLineCapacity);
-    EXPECT_EQ(mx::toUtf8(buf), "Zeile 1    Zuweisung    ???=0");
+    EXPECT_EQ(mx::toUtf8(buf), "Zeile 1    Zuweisung    ?\?\?=0");
     std::u16string longName(60, u'n');
     mx::Value named{mx::kReference, mx::kLong, v, 0, longName.c_str(), 0, 0};
     mx::trFormatAssignment(1, &named, buf, mx::kTraceLineCapacity);
