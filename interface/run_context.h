@@ -61,6 +61,6 @@ struct RunContext {
 // Blocks, conditions, loops, function arguments and nested runs together may
 // nest this deep; one level more fails the run with error 131 instead of
 // exhausting the host's stack.
-constexpr int32_t kMaxDepth = 1000;
+constexpr int32_t kMaxDepth = 2000;
 
 }  // namespace mx

@@ -14,10 +14,12 @@ foreach(line IN LISTS lines)
   endif()
   set(num "${CMAKE_MATCH_1}")
   set(text "${CMAKE_MATCH_2}")
-  # The resource compiler doubles quotes; C++ escapes them.
+  # The resource compiler doubles quotes; C++ escapes them. The .rc texts are
+  # narrow: windres converts those with the code page, but takes the UTF-8
+  # bytes of L"..." texts one by one.
   string(REPLACE "\"" "\"\"" rctext "${text}")
   string(REPLACE "\"" "\\\"" ctext "${text}")
-  string(APPEND rc "    ${num}, L\"${rctext}\"\n")
+  string(APPEND rc "    ${num}, \"${rctext}\"\n")
   string(APPEND inc "{${num}, u\"${ctext}\"},\n")
 endforeach()
 string(APPEND rc "END\n")

@@ -120,7 +120,7 @@ TEST(Statement, NestingIsLimitedInsteadOfExhaustingTheStack) {
         for (int i = 0; i < n; ++i) s += "end ";
         return s;
     };
-    EXPECT_EQ(runCore(u16(blocks(900))).output, "1\n");
+    EXPECT_EQ(runCore(u16(blocks(1900))).output, "1\n");
     CoreRun deep = runCore(u16(blocks(5000)));
     EXPECT_EQ(deep.errorCode, 131);
     EXPECT_EQ(deep.output, "");

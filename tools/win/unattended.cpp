@@ -8,7 +8,7 @@
 
 namespace {
 
-HHOOK hook;
+thread_local HHOOK hook;  // one watcher per thread that shows boxes
 BoxReport reportTo;
 HWND lastOwner;
 
@@ -31,7 +31,8 @@ bool isDialog(HWND w) {
 }
 
 // Once the box is shown: report it and press its default button.
-void answer(HWND w) {
+void CALLBACK answer(HWND w, UINT, UINT_PTR id, DWORD) {
+    KillTimer(w, id);
     HWND textControl = GetDlgItem(w, 0xFFFF);
     std::u16string title = windowText(w);
     std::u16string text = textControl ? windowText(textControl) : std::u16string();
@@ -45,7 +46,8 @@ void answer(HWND w) {
 
 LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_ACTIVATE && isDialog(reinterpret_cast<HWND>(wParam)))
-        answer(reinterpret_cast<HWND>(wParam));
+        // Answer from the box's own message loop, once its texts are set.
+        SetTimer(reinterpret_cast<HWND>(wParam), 1, 1, answer);
     return CallNextHookEx(hook, code, wParam, lParam);
 }
 
