@@ -1,15 +1,64 @@
-// Dispatch entries of the XML built-ins.
+// Dispatch entries of the XML built-ins (301 to 306): each reads its bound
+// arguments and calls the plain function of xml_functions.h.
+#include <new>
+#include <string>
+
 #include "builtins/args.h"
 #include "builtins/dispatch.h"
+#include "xml/xml_functions.h"
 
 namespace mx {
 
 namespace {
+
+// The text of a C[] argument, terminated: a vector filled up to its last
+// element without a terminator is copied into holder first. Absent when
+// that copy cannot be made.
+const char16_t *textArg(Value *v, std::u16string &holder) {
+    const char16_t *text = argText(v);
+    int32_t capacity = argCapacity(v);
+    if (!text) return nullptr;
+    for (int32_t i = 0; i < capacity; ++i)
+        if (!text[i]) return text;
+    try {
+        holder.assign(text, size_t(capacity > 0 ? capacity : 0));
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
+    return holder.c_str();
+}
+
+int32_t create(RunContext &, Value **args, int32_t) {
+    std::u16string a, b;
+    return xml::XMLCreate(textArg(args[0], a), textArg(args[1], b));
+}
+
+int32_t destroy(RunContext &, Value **args, int32_t) { return xml::XMLDelete(argLong(args[0])); }
+
+int32_t getRoot(RunContext &, Value **args, int32_t) { return xml::XMLGetRoot(argLong(args[0])); }
+
+int32_t addChild(RunContext &, Value **args, int32_t) {
+    std::u16string a, b;
+    return xml::XMLAddChild(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
+}
+
+int32_t setAttr(RunContext &, Value **args, int32_t) {
+    std::u16string a, b;
+    return xml::XMLSetAttr(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
+}
+
+int32_t writeFile(RunContext &, Value **args, int32_t) {
+    std::u16string a;
+    return xml::XMLWriteFile(argLong(args[0]), textArg(args[1], a), argLong(args[2]));
+}
+
 const DispatchEntry kEntries[] = {
-    {0, nullptr},  // placeholder: no entries yet
+    {301, create},  {302, destroy}, {303, getRoot},
+    {304, addChild}, {305, setAttr}, {306, writeFile},
 };
+
 }  // namespace
 
-const DispatchFamily kXmlFamily = {"xml", kEntries, 0};
+const DispatchFamily kXmlFamily = {"xml", kEntries, int32_t(sizeof kEntries / sizeof kEntries[0])};
 
 }  // namespace mx
