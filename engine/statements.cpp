@@ -10,6 +10,10 @@
 
 namespace mx {
 
+#ifdef MX_FUZZ
+int64_t stFuzzTurnsLeft = 0;
+#endif
+
 namespace {
 
 // The next character after blanks must be c; else error 120 naming it.
@@ -71,6 +75,12 @@ int32_t whileStatement(RunContext &ctx, Mode mode) {
         if (!c) return stExecute(ctx, Mode::kSkip);
         switch (int32_t r = stExecute(ctx, mode)) {
             case kStNormal:
+#ifdef MX_FUZZ
+                if (--stFuzzTurnsLeft < 0) {
+                    errSet(ctx, kErrStackOverflow);
+                    return kStError;
+                }
+#endif
                 ctx.pos = pos, ctx.line = line;
                 break;
             case kStBreak: return kStNormal;

@@ -23,4 +23,10 @@ int32_t stExecute(RunContext &ctx, Mode mode);
 // Executes statements up to the block's end. Returns normal, break, exit or error.
 int32_t stBlock(RunContext &ctx, Mode mode);
 
+#ifdef MX_FUZZ
+// Fuzzing builds only: loop turns left before a run fails with error 131,
+// so that endless loops, which are valid macros, do not stall the fuzzer.
+extern int64_t stFuzzTurnsLeft;
+#endif
+
 }  // namespace mx
