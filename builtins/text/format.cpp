@@ -35,7 +35,7 @@ struct Sink {
     }
 };
 
-struct Spec {
+struct FieldFormat {
     bool left = false, plus = false, space = false, alt = false, zero = false;
     int32_t width = 0;
     int32_t precision = -1;  // -1: none given
@@ -53,7 +53,7 @@ struct Args {
 int32_t argLong(const FormatArg &a) { return a.text.s ? numStringToInt(a.text) : a.value; }
 
 // A field: blanks or zeros up to the width around prefix, zeros and body.
-void emitField(Sink &out, const Spec &sp, const char *prefix, int32_t zeros, const char16_t *body,
+void emitField(Sink &out, const FieldFormat &sp, const char *prefix, int32_t zeros, const char16_t *body,
                int32_t bodyLen, bool zeroPad) {
     int32_t prefixLen = 0;
     while (prefix[prefixLen]) ++prefixLen;
@@ -66,14 +66,14 @@ void emitField(Sink &out, const Spec &sp, const char *prefix, int32_t zeros, con
     if (sp.left) out.repeat(u' ', pad);
 }
 
-void emitAsciiField(Sink &out, const Spec &sp, const char *prefix, int32_t zeros, const char *body,
+void emitAsciiField(Sink &out, const FieldFormat &sp, const char *prefix, int32_t zeros, const char *body,
                     int32_t bodyLen, bool zeroPad) {
     char16_t wide[512];
     for (int32_t i = 0; i < bodyLen; ++i) wide[i] = char16_t(static_cast<unsigned char>(body[i]));
     emitField(out, sp, prefix, zeros, wide, bodyLen, zeroPad);
 }
 
-void emitInteger(Sink &out, const Spec &sp, int32_t raw) {
+void emitInteger(Sink &out, const FieldFormat &sp, int32_t raw) {
     bool isSigned = sp.conv == u'd' || sp.conv == u'i';
     int64_t sv = sp.bits == 8 ? int8_t(raw) : sp.bits == 16 ? int16_t(raw) : int64_t(raw);
     uint64_t uv = sp.bits == 8    ? uint8_t(raw)
@@ -102,7 +102,7 @@ void emitInteger(Sink &out, const Spec &sp, int32_t raw) {
     emitAsciiField(out, sp, prefix, zeros, digits, n, sp.zero && !sp.left && sp.precision < 0);
 }
 
-void emitFloat(Sink &out, const Spec &sp, double v) {
+void emitFloat(Sink &out, const FieldFormat &sp, double v) {
     char16_t c = sp.conv;
     bool upper = c == u'E' || c == u'F' || c == u'G' || c == u'A';
     int32_t p = sp.precision < 0 ? 6 : sp.precision;
@@ -127,7 +127,7 @@ void emitFloat(Sink &out, const Spec &sp, double v) {
     emitAsciiField(out, sp, prefix, 0, body, n, sp.zero && !sp.left);
 }
 
-void emitText(Sink &out, const Spec &sp, const FormatArg &a) {
+void emitText(Sink &out, const FieldFormat &sp, const FormatArg &a) {
     char16_t number[12];
     TextIn t = a.text;
     if (!t.s) {
@@ -148,7 +148,7 @@ void emitText(Sink &out, const Spec &sp, const FormatArg &a) {
     emitField(out, sp, "", 0, t.s, len, false);
 }
 
-void emitChar(Sink &out, const Spec &sp, const FormatArg &a) {
+void emitChar(Sink &out, const FieldFormat &sp, const FormatArg &a) {
     char16_t c = a.text.s ? (txtLen(a.text) > 0 ? a.text.s[0] : 0) : char16_t(a.value & 0xFFFF);
     emitField(out, sp, "", 0, &c, 1, false);
 }
@@ -165,7 +165,7 @@ int32_t readNumber(const char16_t *s, int32_t len, int32_t *p) {
 }
 
 // Reads the length modifier at p into sp.bits.
-void readLength(const char16_t *s, int32_t len, int32_t *p, Spec &sp) {
+void readLength(const char16_t *s, int32_t len, int32_t *p, FieldFormat &sp) {
     auto at = [&](int32_t k) { return *p + k < len ? s[*p + k] : char16_t(0); };
     char16_t c = at(0);
     if (c == u'h') {
@@ -201,7 +201,7 @@ bool readCount(const char16_t *s, int32_t len, int32_t *p, Args &args, int32_t *
 
 // Reads flags, width, precision and length after the "%" at index p. Returns
 // false when the directive is cut off or a "*" finds no parameter.
-bool readDirective(const char16_t *s, int32_t len, int32_t *p, Args &args, Spec &sp) {
+bool readDirective(const char16_t *s, int32_t len, int32_t *p, Args &args, FieldFormat &sp) {
     for (; *p < len; ++*p) {
         char16_t c = s[*p];
         if (c == u'-') sp.left = true;
@@ -238,7 +238,7 @@ bool isOneOf(char16_t c, const char16_t *set) {
 
 // Formats one conversion with its parameter; false when the conversion is
 // unknown or no parameter is left.
-bool emitConversion(Sink &out, const Spec &sp, Args &args) {
+bool emitConversion(Sink &out, const FieldFormat &sp, Args &args) {
     char16_t c = sp.conv;
     if (c == u'%') {
         out.put(u'%');
@@ -264,7 +264,7 @@ void formatInto(Sink &out, TextIn pattern, Args &args) {
             continue;
         }
         int32_t start = p++;
-        Spec sp;
+        FieldFormat sp;
         if (!readDirective(s, len, &p, args, sp) || !emitConversion(out, sp, args))
             out.units(s + start, p - start);  // written as it stands
     }

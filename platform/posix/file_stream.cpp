@@ -1,29 +1,34 @@
 // File streams that behave like the Windows C runtime's for the modes macros
-// use. Text mode: one byte per character, CR LF read as LF, a Ctrl-Z ends
-// the text, LF written as CR LF, characters above 255 cannot be written.
-// Binary mode: bytes as they are.
-#include <cerrno>
-#include <cstdio>
+// use (see platform/files.h for the modes and their translations).
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 
 #include "engine/utf8.h"
 #include "platform/files.h"
+#include "platform/posix/file_mode.h"
+#include "platform/posix/file_share.h"
+#include "platform/posix/file_units.h"
 
 namespace mx {
 
-struct MxpFile {
-    FILE *fp;
-    bool text;
-};
-
 namespace {
+
+constexpr unsigned char kUtf8Bom[] = {0xEF, 0xBB, 0xBF};
+constexpr unsigned char kUtf16Bom[] = {0xFF, 0xFE};
+
 OpenError fromErrno(int e) {
     switch (e) {
         case ENOENT:
-        case ENOTDIR: return OpenError::kNotFound;
+        case ENOTDIR:
+        case ENAMETOOLONG: return OpenError::kNotFound;
         case EACCES:
         case EPERM:
-        case EISDIR: return OpenError::kAccessDenied;
+        case EISDIR:
+        case EROFS:
+        case ETXTBSY: return OpenError::kAccessDenied;
         case EEXIST: return OpenError::kExists;
         case EMFILE:
         case ENFILE: return OpenError::kTooManyOpen;
@@ -31,86 +36,134 @@ OpenError fromErrno(int e) {
     }
 }
 
-// The C mode letters of a runtime mode text ("rt", "a+b, ccs=...").
-std::string stdioMode(const char16_t *mode, bool *text) {
-    std::string m;
-    *text = true;
-    for (const char16_t *p = mode; p && *p && *p != u','; ++p) {
-        if (*p == u'r' || *p == u'w' || *p == u'a' || *p == u'+') m += char(*p);
-        if (*p == u'b') *text = false;
+// Opens the descriptor; write-only modes ask for reading too, so that the
+// sharing records (read locks) can be placed. Returns -1 with errno set.
+int openDescriptor(const std::string &name, const FileMode &m, bool *readable) {
+    int flags = O_CLOEXEC | (m.create ? O_CREAT : 0) | (m.append ? O_APPEND : 0);
+    int fd = open(name.c_str(), flags | (m.write ? O_RDWR : O_RDONLY), 0666);
+    if (fd < 0 && m.write && !m.read && errno == EACCES) {
+        fd = open(name.c_str(), flags | O_WRONLY, 0666);
+        *readable = false;
+        return fd;
     }
-    return m + "b";
+    *readable = true;
+    return fd;
 }
+
+Encoding ccsEncoding(Ccs ccs) {
+    switch (ccs) {
+        case Ccs::kUtf8: return Encoding::kUtf8;
+        case Ccs::kNone:
+        case Ccs::kUnicode: return Encoding::kBytes;
+        default: return Encoding::kUtf16;
+    }
+}
+
+// A ccs stream: a file created, emptied or found empty gets the mark of the
+// encoding; an existing one's mark decides and is skipped.
+bool setUpEncoding(MxpFile &f, int64_t size) {
+    if (f.mode.ccs == Ccs::kNone) return true;
+    if (f.mode.write && (f.mode.truncate || size == 0)) {
+        bool utf8 = f.mode.ccs == Ccs::kUtf8;
+        f.encoding = utf8 ? Encoding::kUtf8 : Encoding::kUtf16;
+        bool put = utf8 ? f.io.put(kUtf8Bom, 3) : f.io.put(kUtf16Bom, 2);
+        return put && f.io.flush();
+    }
+    f.encoding = ccsEncoding(f.mode.ccs);
+    unsigned char head[3] = {};
+    ssize_t n = pread(f.io.fd, head, 3, 0);
+    off_t skip = 0;
+    if (n == 3 && head[0] == kUtf8Bom[0] && head[1] == kUtf8Bom[1] && head[2] == kUtf8Bom[2])
+        f.encoding = Encoding::kUtf8, skip = 3;
+    else if (n >= 2 && head[0] == kUtf16Bom[0] && head[1] == kUtf16Bom[1])
+        f.encoding = Encoding::kUtf16, skip = 2;
+    return lseek(f.io.fd, skip, SEEK_SET) >= 0;
+}
+
 }  // namespace
 
-MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share, OpenError *why) {
-    bool text = true;
-    std::string m = stdioMode(mode, &text);
+MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, OpenError *why) {
+    OpenError dummy;
+    if (!why) why = &dummy;
+    FileMode m = fmParse(mode);
+    if (!m.valid) return *why = OpenError::kOther, nullptr;
     std::string name = toUtf8(path);
+    if (name.empty()) return *why = OpenError::kNotFound, nullptr;
+    bool readable = true;
+    int fd = openDescriptor(name, m, &readable);
+    if (fd < 0) return *why = fromErrno(errno), nullptr;
     struct stat st;
-    if (m[0] == 'r' && stat(name.c_str(), &st) == 0 && S_ISDIR(st.st_mode)) {
-        if (why) *why = OpenError::kAccessDenied;
-        return nullptr;
+    bool ok = fstat(fd, &st) == 0 && !S_ISDIR(st.st_mode) &&
+              (!readable || !S_ISREG(st.st_mode) || shareAcquire(fd, m.read, m.write, share));
+    if (!ok || (m.truncate && S_ISREG(st.st_mode) && ftruncate(fd, 0) != 0)) {
+        close(fd);
+        return *why = OpenError::kAccessDenied, nullptr;
     }
-    FILE *fp = (m.size() > 1 && !name.empty()) ? std::fopen(name.c_str(), m.c_str()) : nullptr;
-    if (!fp) {
-        if (why) *why = name.empty() ? OpenError::kNotFound : fromErrno(errno);
-        return nullptr;
+    auto *f = new MxpFile;
+    f->io.fd = fd;
+    f->mode = m;
+    f->writing = m.write && !m.read;
+    if (!setUpEncoding(*f, m.truncate ? 0 : int64_t(st.st_size))) {
+        mxp_FileClose(f);
+        return *why = OpenError::kOther, nullptr;
     }
-    if (why) *why = OpenError::kNone;
-    return new MxpFile{fp, text};
+    *why = OpenError::kNone;
+    return f;
 }
 
 void mxp_FileClose(MxpFile *file) {
     if (!file) return;
-    std::fclose(file->fp);
+    mxp_FileFlush(file);
+    close(file->io.fd);
     delete file;
 }
 
 int64_t mxp_FileLength(MxpFile *file) {
     struct stat st;
-    if (!file || fstat(fileno(file->fp), &st) != 0) return -1;
+    if (!file || mxp_FileFlush(file) < 0 || fstat(file->io.fd, &st) != 0) return -1;
     return int64_t(st.st_size);
 }
 
 int32_t mxp_FileGetChar(MxpFile *file) {
     if (!file) return -1;
-    int c = std::fgetc(file->fp);
-    if (c == EOF) return -1;
-    if (!file->text) return c;
-    if (c == 0x1A) {
-        std::fseek(file->fp, 0, SEEK_END);
-        return -1;
+    if (file->mode.text) return fuReadUnit(*file);
+    return fuBeginRead(*file) ? file->io.get() : -1;
+}
+
+int32_t mxp_FileReadLine(MxpFile *file, char16_t *buf, int32_t capacity) {
+    if (!buf || capacity < 1) return -1;
+    int32_t n = 0;
+    while (file && n < capacity - 1) {
+        int32_t u = fuReadUnit(*file);
+        if (u < 0) break;
+        buf[n++] = char16_t(u);
+        if (u == '\n') break;
     }
-    if (c == '\r') {
-        int next = std::fgetc(file->fp);
-        if (next == '\n') return '\n';
-        if (next != EOF) std::ungetc(next, file->fp);
-    }
-    return c;
+    buf[n] = 0;
+    return n > 0 ? n : -1;
 }
 
 int32_t mxp_FilePutText(MxpFile *file, const char16_t *text) {
     if (!file) return -1;
-    for (const char16_t *p = text; p && *p; ++p) {
-        if (*p > 255) return -1;
-        if (file->text && *p == u'\n' && std::fputc('\r', file->fp) == EOF) return -1;
-        if (std::fputc(int(*p), file->fp) == EOF) return -1;
-    }
+    for (const char16_t *p = text; p && *p; ++p)
+        if (!fuWriteUnit(*file, *p)) return -1;
     return 0;
 }
 
-int32_t mxp_FileFlush(MxpFile *file) { return file && std::fflush(file->fp) == 0 ? 0 : -1; }
+int32_t mxp_FileFlush(MxpFile *file) {
+    if (!file) return -1;
+    if (!file->writing) return file->io.failed ? -1 : 0;
+    return fuFinishPending(*file) && file->io.flush() ? 0 : -1;
+}
 
 int64_t mxp_FileReadBytes(MxpFile *file, void *buf, size_t size) {
-    if (!file) return -1;
-    size_t n = std::fread(buf, 1, size, file->fp);
-    return std::ferror(file->fp) ? -1 : int64_t(n);
+    if (!file || !fuBeginRead(*file)) return -1;
+    return file->io.read(buf, size);
 }
 
 int32_t mxp_FileWriteBytes(MxpFile *file, const void *buf, size_t size) {
-    if (!file) return -1;
-    return std::fwrite(buf, 1, size, file->fp) == size ? 0 : -1;
+    if (!file || !fuBeginWrite(*file)) return -1;
+    return file->io.put(buf, size) ? 0 : -1;
 }
 
 }  // namespace mx

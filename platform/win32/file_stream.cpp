@@ -1,6 +1,8 @@
-// File streams of the C runtime with sharing modes.
+// File streams of the C runtime with sharing modes; the runtime itself does
+// the translations of every mode.
 #include <cerrno>
 #include <cstdio>
+#include <cwchar>
 #include <share.h>
 #include <sys/stat.h>
 
@@ -10,7 +12,7 @@ namespace mx {
 
 struct MxpFile {
     FILE *fp;
-    bool text;
+    bool wide;  // a ccs= mode: only the wide functions may touch it
 };
 
 namespace {
@@ -32,23 +34,24 @@ int shareFlag(Share share) {
     }
 }
 
-bool isTextMode(const char16_t *mode) {
-    for (const char16_t *p = mode; p && *p && *p != u','; ++p)
-        if (*p == u'b') return false;
-    return true;
+bool hasCcs(const char16_t *mode) {
+    for (const char16_t *p = mode; p && *p; ++p)
+        if (*p == u',') return true;
+    return false;
 }
+
+const wchar_t *wide(const char16_t *s) { return reinterpret_cast<const wchar_t *>(s); }
 }  // namespace
 
 MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, OpenError *why) {
     errno = 0;
-    FILE *fp = _wfsopen(reinterpret_cast<const wchar_t *>(path), reinterpret_cast<const wchar_t *>(mode),
-                        shareFlag(share));
+    FILE *fp = path && mode ? _wfsopen(wide(path), wide(mode), shareFlag(share)) : nullptr;
     if (!fp) {
-        if (why) *why = fromErrno(errno);
+        if (why) *why = path && mode ? fromErrno(errno) : OpenError::kOther;
         return nullptr;
     }
     if (why) *why = OpenError::kNone;
-    return new MxpFile{fp, isTextMode(mode)};
+    return new MxpFile{fp, hasCcs(mode)};
 }
 
 void mxp_FileClose(MxpFile *file) {
@@ -59,23 +62,37 @@ void mxp_FileClose(MxpFile *file) {
 
 int64_t mxp_FileLength(MxpFile *file) {
     struct _stat64 st;
-    if (!file || _fstat64(_fileno(file->fp), &st) != 0) return -1;
+    if (!file || std::fflush(file->fp) != 0 || _fstat64(_fileno(file->fp), &st) != 0) return -1;
     return int64_t(st.st_size);
 }
 
 int32_t mxp_FileGetChar(MxpFile *file) {
     if (!file) return -1;
+    if (file->wide) {
+        wint_t c = std::fgetwc(file->fp);
+        return c == WEOF ? -1 : int32_t(c);
+    }
     int c = std::fgetc(file->fp);
     return c == EOF ? -1 : c;
 }
 
+int32_t mxp_FileReadLine(MxpFile *file, char16_t *buf, int32_t capacity) {
+    if (!buf || capacity < 1) return -1;
+    buf[0] = 0;
+    if (!file || capacity < 2) return -1;
+    wchar_t *w = reinterpret_cast<wchar_t *>(buf);
+    if (!std::fgetws(w, capacity, file->fp)) {
+        buf[0] = 0;
+        return -1;
+    }
+    return int32_t(std::wcslen(w));
+}
+
 int32_t mxp_FilePutText(MxpFile *file, const char16_t *text) {
     if (!file) return -1;
-    for (const char16_t *p = text; p && *p; ++p) {
-        if (*p > 255) return -1;
-        if (std::fputc(int(*p), file->fp) == EOF) return -1;
-    }
-    return 0;
+    if (!text || !*text) return 0;
+    int r = std::fputws(wide(text), file->fp);
+    return r < 0 || r == int(WEOF) ? -1 : 0;
 }
 
 int32_t mxp_FileFlush(MxpFile *file) { return file && std::fflush(file->fp) == 0 ? 0 : -1; }

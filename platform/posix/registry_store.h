@@ -1,0 +1,54 @@
+// The content of one file-backed registry hive and its text form.
+//
+// Store file grammar (UTF-8, one item per line, LF line ends):
+//   store  = "MORVIX-REGISTRY 1" LF { key LF { value LF } }
+//   key    = "[" path "]"                    path: names joined by "\"
+//   value  = ("s " name "=" text) | ("d " name "=" decimal)
+// In path, name and text the characters %, =, ], CR and LF are written as
+// "%" and two hex digits. Lines that fit no rule are skipped.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace mx {
+
+struct RegValue {
+    std::u16string name;
+    bool isDword = false;
+    std::u16string text;
+    uint32_t dword = 0;
+};
+
+struct RegKey {
+    std::u16string path;  // canonical: no empty names, no outer backslashes
+    std::vector<RegValue> values;
+};
+
+struct RegistryStore {
+    std::vector<RegKey> keys;
+
+    // Reads a store file's text (see the grammar above); never fails.
+    static RegistryStore parse(const std::string &utf8);
+    // The store's text; parse(serialize()) gives the same store.
+    std::string serialize() const;
+
+    // The key, or absent. Paths are canonicalised and compared without case.
+    RegKey *find(const std::u16string &path);
+    // The key, created with its missing parents.
+    RegKey &create(const std::u16string &path);
+    // The value of a key, or absent.
+    static RegValue *findValue(RegKey &key, const std::u16string &name);
+    // True when some key lies below path.
+    bool hasSubkeys(const std::u16string &path) const;
+    // Removes the key; false when it is missing or has subkeys.
+    bool removeKey(const std::u16string &path);
+
+    // "a\\\\b\\" and "\\a\\b" both give "a\\b".
+    static std::u16string canonical(const std::u16string &path);
+    // True when every name of the path has at most 255 characters (longer
+    // key names cannot exist).
+    static bool validPath(const std::u16string &path);
+};
+
+}  // namespace mx

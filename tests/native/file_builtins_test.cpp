@@ -1,0 +1,272 @@
+// The stream and whole-file built-ins, through real macros and directly:
+// the five slots, the open errors and their boxes, handles that name no
+// stream, line reading in pieces, exact writing, copying, renaming,
+// deleting, loading, temporary names and directory chains.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <set>
+
+#include "builtins/dispatch.h"
+#include "builtins/files/file_ops.h"
+#include "builtins/files/streams.h"
+#include "builtins/table.h"
+#include "engine/utf8.h"
+#include "interface/run_context.h"
+#include "macro_harness.h"
+#include "platform/platform.h"
+
+namespace fs = std::filesystem;
+using namespace mx;
+
+namespace {
+
+struct FileBuiltins : ::testing::Test {
+    std::string dir = scratchDir();
+    std::string path(const std::string &name) const { return dir + "/" + name; }
+    std::u16string upath(const std::string &name) const { return fromUtf8(path(name)); }
+    MacroRun run(const std::string &text) { return runMemory(u16(text)); }
+    void TearDown() override { fs::remove_all(dir); }
+};
+
+TEST(FileFamily, EveryFunctionOfTheFamilyIsImplementedUnderAllItsNames) {
+    const std::set<uint32_t> numbers = {1,  2,  3,  4,   5,   6,   7,   9,   46,  47,  48,  49,  57,  58,  59,  60,  73,
+                                        80, 105, 106, 112, 123, 136, 137, 141, 147, 152, 162, 163, 167, 168, 169, 170, 187};
+    std::set<uint32_t> seen;
+    for (const FunctionRow *row = biTable(); row->name; ++row) {
+        uint32_t number = row->identifier & kFunctionNumberMask;
+        if (!row->signature || !numbers.count(number)) continue;
+        seen.insert(number);
+        EXPECT_TRUE(biImplemented(int32_t(number))) << toUtf8(row->name);
+    }
+    EXPECT_EQ(seen, numbers);
+}
+
+TEST_F(FileBuiltins, SixthOpenAnswersZeroSilentlyAndAFreedSlotIsReused) {
+    for (int i = 1; i <= 6; ++i) writeFile(path("f" + std::to_string(i)), "x");
+    std::string m = "int h[7]; int i; i = 1;\n";
+    for (int i = 1; i <= 6; ++i)
+        m += "h[" + std::to_string(i) + "] = OpenFile(\"" + path("f" + std::to_string(i)) + "\", \"r\");\n";
+    m += "i = 1; while (i < 7) { Print(h[i]); i = i + 1; }\n"
+         "Print(CloseFile(h[3]));\n"
+         "Print(OpenFile(\"" + path("f6") + "\", \"r\"));\n";
+    MacroRun r = run(m);
+    EXPECT_EQ(r.result, 0);
+    EXPECT_EQ(r.output, "1\n2\n3\n4\n5\n0\n0\n3\n");
+}
+
+TEST_F(FileBuiltins, FailedOpenShowsItsBoxAtOnceAndTheMacroGoesOn) {
+    writeFile(path("busy.txt"), "x");
+    std::string missing = path("missing.txt"), busy = path("busy.txt");
+    MacroRun r = run("Print(OpenFile(\"" + missing + "\", \"r\"));\n"
+                     "Print(OpenFile(\"" + busy + "\", \"r\"));\n"
+                     "Print(OpenFile(\"" + busy + "\", \"r\"));\n"
+                     "Print(OpenFile(\"" + busy + "\", \"q\"));\n"
+                     "Print(7);");
+    EXPECT_EQ(r.result, 0);
+    EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 1 des Makros \n\nDie Datei '" + missing +
+                            "' existiert nicht\n\n"
+                            "0\n1\n"
+                            "Makrofehler: Fehler in Zeile 3 des Makros \n\nDie Datei '" +
+                            busy +
+                            "' ist bereits im Zugriff\n\n"
+                            "0\n"
+                            "Makrofehler: Fehler in Zeile 4 des Makros \n\nFehler in Datei '" +
+                            busy +
+                            "'\n\n"
+                            "0\n7\n");
+}
+
+TEST_F(FileBuiltins, OpenErrorKeepsOnly127CharactersOfTheName) {
+    RunContext ctx{};
+    static std::string box;
+    box.clear();
+    mxp_SetBoxSink([](const char16_t *, const char16_t *text) { box = toUtf8(text); });
+    std::u16string name = upath(std::string(600, 'n'));
+    EXPECT_EQ(fsOpenFile(ctx, name.c_str(), u"r"), 0);
+    mxp_SetBoxSink(nullptr);
+    EXPECT_EQ(ctx.errorCode, 113);
+    EXPECT_EQ(std::u16string(ctx.errorArg), name.substr(0, 127));
+    EXPECT_NE(box.find(toUtf8(name.substr(0, 127).c_str()) + "' existiert nicht"), std::string::npos);
+}
+
+TEST_F(FileBuiltins, HandlesThatNameNoStreamTouchNothing) {
+    writeFile(path("a.txt"), "line\n");
+    RunContext ctx{};
+    int32_t h = fsOpenFile(ctx, upath("a.txt").c_str(), u"r");
+    ASSERT_EQ(h, 1);
+    ASSERT_EQ(fsCloseFile(ctx, h), 0);
+    char16_t buf[8] = u"keep";
+    for (int32_t bad : {0, -1, 6, 7, 1000, h}) {
+        SCOPED_TRACE(bad);
+        EXPECT_EQ(fsReadFile(ctx, bad, buf, 8), 1);
+        EXPECT_EQ(buf[0], 0);
+        EXPECT_EQ(fsWriteFile(ctx, bad, u"x"), -1);
+        EXPECT_EQ(fsCloseFile(ctx, bad), -1);
+    }
+    for (MxpFile *f : ctx.files) EXPECT_EQ(f, nullptr);
+    EXPECT_EQ(readFile(path("a.txt")), "line\n");
+}
+
+TEST_F(FileBuiltins, LongLinesComeInPiecesAndTheEndAnswersOne) {
+    writeFile(path("long.txt"), "abcdefgh\r\nxy");
+    MacroRun r = run("char s[4]; int h; int rc; h = OpenFile(\"" + path("long.txt") + "\", \"r\");\n"
+                     "rc = ReadFile(h, s); while (rc == 0) { Print(s); rc = ReadFile(h, s); }\n"
+                     "Print(rc); Print(ReadFile(h, s)); CloseFile(h);");
+    EXPECT_EQ(r.output, "abc\ndef\ngh\n\nxy\n1\n1\n");
+}
+
+TEST_F(FileBuiltins, WriteFileWritesExactlyItsText) {
+    MacroRun r = run("int h; h = OpenFile(\"" + path("w.txt") + "\", \"w\");\n"
+                     "Print(WriteFile(h, \"abc\")); Print(WriteFile(h, \"\")); CloseFile(h);\n"
+                     "h = OpenFile(\"" + path("r.txt") + "\", \"r\"); Print(WriteFile(h, \"x\"));");
+    EXPECT_EQ(readFile(path("w.txt")), "abc");
+    EXPECT_NE(r.output.find("0\n0\n"), std::string::npos);
+    EXPECT_EQ(r.output.substr(r.output.size() - 3), "-1\n") << "a read-only stream refuses writing";
+}
+
+TEST_F(FileBuiltins, FilesOfARunAndOfANestedRunAreClosedAtTheirEnd) {
+    writeFile(path("outer.txt"), "o\n");
+    for (int i = 1; i <= 5; ++i) writeFile(path("in" + std::to_string(i)), "i\n");
+    std::string inner = "Macro \"inner\" begin\n";
+    for (int i = 1; i <= 5; ++i)
+        inner += "Print(OpenFile(\"" + path("in" + std::to_string(i)) + "\", \"r\"));\n";
+    writeFile(path("inner.mac"), inner + "end\n");
+    writeFile(path("outer.mac"), "Macro \"outer\" begin int h; char s[8];\n"
+                                 "h = OpenFile(\"" + path("outer.txt") + "\", \"r\");\n"
+                                 "Call(\"" + path("inner.mac") + "\");\n"
+                                 "Print(OpenFile(\"" + path("in1") + "\", \"r\"));\n"
+                                 "ReadFile(h, s); Print(s);\nend\n");
+    MacroRun r = runFile(upath("outer.mac"));
+    EXPECT_EQ(r.result, 0);
+    EXPECT_EQ(r.output, "1\n2\n3\n4\n5\n2\no\n\n");
+    RunContext ctx{};
+    int32_t h = fsOpenFile(ctx, upath("outer.txt").c_str(), u"r");
+    EXPECT_EQ(h, 1) << "the run's end closed the outer file";
+    fsCloseFile(ctx, h);
+}
+
+TEST_F(FileBuiltins, FilesAreClosedWhenARunFailsOrIsAborted) {
+    writeFile(path("x.txt"), "x");
+    std::string open = "int h; h = OpenFile(\"" + path("x.txt") + "\", \"r\");";
+    MacroRun failed = run(open + "Print(h); Print(undeclared);");
+    EXPECT_EQ(failed.result, -1);
+    MacroRun aborted = runMemory(u16(open + "Print(h); Print(2);"), 1, nullptr, 2);
+    EXPECT_EQ(aborted.result, -2);
+    EXPECT_EQ(aborted.output, "1\n");
+    RunContext ctx{};
+    EXPECT_EQ(fsOpenFile(ctx, upath("x.txt").c_str(), u"r"), 1) << "both runs closed the file";
+    fsCloseFile(ctx, 1);
+}
+
+TEST_F(FileBuiltins, CopyReplacesTheDestinationAndNeedsItsSource) {
+    std::string big(5000, 'z');
+    big[1023] = '\0';
+    writeFile(path("src.bin"), big);
+    writeFile(path("dst.bin"), "old content that is longer");
+    EXPECT_EQ(foCopyFile(upath("src.bin").c_str(), upath("dst.bin").c_str()), 0);
+    EXPECT_EQ(readFile(path("dst.bin")), big);
+    EXPECT_EQ(foCopyFile(upath("none.bin").c_str(), upath("new.bin").c_str()), 1);
+    EXPECT_FALSE(fs::exists(path("new.bin")));
+    EXPECT_EQ(foCopyFile(upath("src.bin").c_str(), upath("src.bin").c_str()), 1);
+    EXPECT_EQ(readFile(path("src.bin")), big) << "copying onto itself loses nothing";
+    EXPECT_EQ(foCopyFile(upath("src.bin").c_str(), upath("nodir/x").c_str()), 1);
+    RunContext ctx{};
+    ASSERT_EQ(fsOpenFile(ctx, upath("dst.bin").c_str(), u"r"), 1);
+    EXPECT_EQ(foCopyFile(upath("dst.bin").c_str(), upath("copy.bin").c_str()), 1) << "an open file is busy";
+    fsCloseFile(ctx, 1);
+}
+
+TEST_F(FileBuiltins, RenameMovesButNeverOverwrites) {
+    writeFile(path("a"), "A");
+    writeFile(path("b"), "B");
+    fs::create_directory(path("sub"));
+    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("b").c_str()), 1);
+    EXPECT_EQ(readFile(path("b")), "B");
+    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("sub/a2").c_str()), 0);
+    EXPECT_EQ(readFile(path("sub/a2")), "A");
+    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("c").c_str()), 1);
+    EXPECT_EQ(foRenameFile(u"", upath("c").c_str()), 1);
+}
+
+TEST_F(FileBuiltins, DeleteAlwaysAnswersZero) {
+    writeFile(path("d"), "x");
+    EXPECT_EQ(foDeleteFile(upath("d").c_str()), 0);
+    EXPECT_FALSE(fs::exists(path("d")));
+    EXPECT_EQ(foDeleteFile(upath("d").c_str()), 0);
+    EXPECT_EQ(foDeleteFile(u""), 0);
+    EXPECT_EQ(foDeleteFile(upath(std::string(600, 'd')).c_str()), 0);
+    // Only the first 511 characters name the file.
+    std::string deep = path(std::string(200, 'a') + "/" + std::string(200, 'b') + "/");
+    fs::create_directories(deep);
+    std::string cut = deep + std::string(511 - deep.size(), 'c');
+    writeFile(cut, "x");
+    EXPECT_EQ(foDeleteFile(fromUtf8(cut + "cccc").c_str()), 0);
+    EXPECT_FALSE(fs::exists(cut));
+}
+
+TEST_F(FileBuiltins, LoadFileDecodesByItsMarkWithinTheCapacity) {
+    struct Case {
+        std::string bytes;
+        int32_t capacity;
+        int32_t result;
+        std::u16string text;
+    } cases[] = {
+        {"\xef\xbb\xbf" "a\xc3\xa4\r\n", 16, 4, u"a\u00e4\r\n"},
+        {std::string("\xff\xfe" "a\0\x01\x01", 6), 16, 2, u"a\u0101"},
+        {"a\xe4\xff", 16, 3, u"a\u00e4\u00ff"},
+        {"abcdef", 4, 3, u"abc"},
+        {"abcdef", 1, 0, u""},
+        {"", 8, 0, u""},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.bytes);
+        writeFile(path("load.txt"), c.bytes);
+        char16_t buf[17];
+        std::fill(std::begin(buf), std::end(buf), u'#');
+        EXPECT_EQ(foLoadFile(upath("load.txt").c_str(), buf, c.capacity, 99), c.result);
+        EXPECT_EQ(std::u16string(buf), c.text);
+        EXPECT_EQ(buf[c.capacity], u'#') << "nothing written past the capacity";
+    }
+    char16_t buf[4] = u"old";
+    EXPECT_EQ(foLoadFile(upath("none.txt").c_str(), buf, 4, 0), -1);
+    EXPECT_EQ(foLoadFile(fromUtf8(dir).c_str(), buf, 4, 0), -1);
+    EXPECT_EQ(std::u16string(buf), u"old");
+}
+
+TEST_F(FileBuiltins, TempFileNamesAreNewEmptyFilesStartingWithMX) {
+    std::string tmp = dir + "/tmp";
+    fs::create_directory(tmp);
+    const char *old = getenv("TMPDIR");
+    std::string saved = old ? old : "";
+    setenv("TMPDIR", tmp.c_str(), 1);
+    char16_t a[256], b[256], small[8] = u"keep";
+    EXPECT_EQ(foGetTempFileName(a, 256), 0);
+    EXPECT_EQ(foGetTempFileName(b, 256), 0);
+    EXPECT_EQ(foGetTempFileName(small, 8), -1);
+    if (old) setenv("TMPDIR", saved.c_str(), 1);
+    else unsetenv("TMPDIR");
+    EXPECT_NE(std::u16string(a), std::u16string(b));
+    EXPECT_EQ(small[0], 0);
+    for (char16_t *name : {a, b}) {
+        fs::path p(toUtf8(name));
+        EXPECT_EQ(p.parent_path().string(), tmp);
+        EXPECT_EQ(p.filename().string().substr(0, 2), "MX");
+        EXPECT_TRUE(fs::exists(p));
+        EXPECT_EQ(fs::file_size(p), 0u);
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(tmp), fs::directory_iterator()), 2);
+}
+
+TEST_F(FileBuiltins, CreateDirectoryMakesTheWholeChain) {
+    EXPECT_EQ(foCreateDirectory(upath("a/b/c").c_str()), 0);
+    EXPECT_TRUE(fs::is_directory(path("a/b/c")));
+    EXPECT_EQ(foCreateDirectory(upath("a/b/c/").c_str()), 0) << "an existing directory is success";
+    writeFile(path("file"), "x");
+    EXPECT_EQ(foCreateDirectory(upath("file/sub").c_str()), -1);
+    EXPECT_EQ(foCreateDirectory(upath("file").c_str()), -1);
+    EXPECT_EQ(foCreateDirectory(u""), -1);
+}
+
+}  // namespace
