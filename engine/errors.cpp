@@ -33,6 +33,16 @@ void errSetN(RunContext &ctx, int32_t code, const char16_t *arg, int32_t n) {
     ctx.errorArg[i] = 0;
 }
 
+int32_t errOpenFailure(OpenError why) {
+    switch (why) {
+        case OpenError::kNotFound: return kErrFileNotFound;
+        case OpenError::kAccessDenied: return kErrFileAccess;
+        case OpenError::kExists: return kErrFileExists;
+        case OpenError::kTooManyOpen: return kErrTooManyFiles;
+        default: return kErrFile;
+    }
+}
+
 int32_t errLoadMessage(uint32_t number, char16_t *buf, int32_t capacity) {
     mxp_LoadString(gProcess.module, number, buf, capacity);
     return TLX_TranslateStringW(gProcess.tlxModuleName, 0, buf, capacity);

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "interface/run_context.h"
+#include "platform/files.h"
 
 namespace mx {
 
@@ -58,6 +59,10 @@ void errSet(RunContext &ctx, int32_t code, const char16_t *arg = nullptr);
 
 // Like errSet, with an argument of exactly n units (it need not be terminated).
 void errSetN(RunContext &ctx, int32_t code, const char16_t *arg, int32_t n);
+
+// The error code of a failed file open: 113 not found, 115 access denied,
+// 112 exists, 114 too many open files, 111 anything else.
+int32_t errOpenFailure(OpenError why);
 
 // Loads message number from the library's string table into buf and lets the
 // translation helper translate it in place. Returns its length (0: none).

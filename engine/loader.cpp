@@ -78,16 +78,6 @@ struct Normaliser {
     }
 };
 
-int32_t openErrorCode(OpenError why) {
-    switch (why) {
-        case OpenError::kNotFound: return kErrFileNotFound;
-        case OpenError::kAccessDenied: return kErrFileAccess;
-        case OpenError::kExists: return kErrFileExists;
-        case OpenError::kTooManyOpen: return kErrTooManyFiles;
-        default: return kErrFile;
-    }
-}
-
 bool allocate(RunContext &ctx, int32_t capacity) {
     ctx.text = static_cast<char16_t *>(std::calloc(size_t(capacity), sizeof(char16_t)));
     if (!ctx.text) {
@@ -106,7 +96,7 @@ int32_t loadFile(RunContext &ctx) {
     OpenError why = OpenError::kNone;
     MxpFile *f = mxp_FileOpen(path, u"rt", Share::kDenyWrite, &why);
     if (!f) {
-        errSet(ctx, openErrorCode(why), path);
+        errSet(ctx, errOpenFailure(why), path);
         return -1;
     }
     int64_t size = mxp_FileLength(f);

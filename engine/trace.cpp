@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "engine/text_out.h"
 #include "engine/u16.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -12,37 +13,16 @@ namespace {
 constexpr int32_t kShownTextLimit = 197;
 constexpr int32_t kTargetCapacity = 40;  // at most 39 characters
 
-// Bounded writer into a UTF-16 buffer; everything past the capacity is cut.
-struct Out {
-    char16_t *buf;
-    int32_t capacity;
-    int32_t len = 0;
-    void put(char16_t c) {
-        if (len < capacity - 1) buf[len++] = c;
-        buf[len] = 0;
-    }
-    void text(const char16_t *s) {
-        for (; s && *s; ++s) put(*s);
-    }
-    void ascii(const char *s, const char *end) {
-        for (; s < end; ++s) put(char16_t(static_cast<unsigned char>(*s)));
-    }
-    void number(int64_t v) {
-        char tmp[24];
-        auto r = std::to_chars(tmp, tmp + sizeof tmp, v);
-        ascii(tmp, r.ptr);
-    }
-    void fixed(double v) {  // "%lf": six decimals, independent of the locale
-        char tmp[400];
-        auto r = std::to_chars(tmp, tmp + sizeof tmp, v, std::chars_format::fixed, 6);
-        if (r.ec == std::errc()) ascii(tmp, r.ptr);
-    }
-};
+// The "%lf" form of a double: six decimals, independent of the locale.
+void fixed(TextOut &o, double v) {
+    char tmp[400];
+    auto r = std::to_chars(tmp, tmp + sizeof tmp, v, std::chars_format::fixed, 6);
+    if (r.ec == std::errc()) o.ascii(tmp, r.ptr);
+}
 
-void shownText(Out &o, const char16_t *s) {
+void shownText(TextOut &o, const char16_t *s) {
     char16_t shown[kShownTextLimit + 1];
-    Out t{shown, kShownTextLimit + 1};
-    shown[0] = 0;
+    TextOut t(shown, kShownTextLimit + 1);
     for (; s && *s; ++s) {
         switch (*s) {
             case u'\t': t.put(u'\\'); t.put(u't'); break;
@@ -66,8 +46,7 @@ void emit(RunContext &ctx, const char16_t *line, bool toFile, bool toBox) {
 }  // namespace
 
 int32_t trFormatValue(const Value *v, char16_t *buf, int32_t capacity) {
-    Out o{buf, capacity};
-    if (capacity > 0) buf[0] = 0;
+    TextOut o(buf, capacity);
     if (!v || !v->data) return 0;
     switch (v->type) {
         case kChar:
@@ -75,12 +54,12 @@ int32_t trFormatValue(const Value *v, char16_t *buf, int32_t capacity) {
             else o.put(*static_cast<const char16_t *>(v->data));
             break;
         case kLong:
-            if (v->count) o.text(u"Long ["), o.number(v->count), o.put(u']');
-            else o.number(*static_cast<const int32_t *>(v->data));
+            if (v->count) o.text(u"Long ["), o.decimal(v->count), o.put(u']');
+            else o.decimal(*static_cast<const int32_t *>(v->data));
             break;
         case kDouble:
-            if (v->count) o.text(u"Double ["), o.number(v->count), o.put(u']');
-            else o.fixed(*static_cast<const double *>(v->data));
+            if (v->count) o.text(u"Double ["), o.decimal(v->count), o.put(u']');
+            else fixed(o, *static_cast<const double *>(v->data));
             break;
         default: break;
     }
@@ -89,9 +68,9 @@ int32_t trFormatValue(const Value *v, char16_t *buf, int32_t capacity) {
 
 int32_t trFormatCall(int32_t line, const char16_t *name, Value *const *args, int32_t count,
                      int32_t result, char16_t *buf, int32_t capacity) {
-    Out o{buf, capacity};
+    TextOut o(buf, capacity);
     o.text(u"Zeile ");
-    o.number(line);
+    o.decimal(line);
     o.text(u"    Funktionsaufruf    ");
     o.text(name);
     o.text(u" (");
@@ -102,25 +81,24 @@ int32_t trFormatCall(int32_t line, const char16_t *name, Value *const *args, int
         o.text(value);
     }
     o.text(u")    Funktionswert: ");
-    o.number(result);
+    o.decimal(result);
     return o.len;
 }
 
 int32_t trFormatAssignment(int32_t line, const Value *target, char16_t *buf, int32_t capacity) {
-    Out o{buf, capacity};
+    TextOut o(buf, capacity);
     o.text(u"Zeile ");
-    o.number(line);
+    o.decimal(line);
     o.text(u"    Zuweisung    ");
     char16_t name[kTargetCapacity];
-    Out t{name, kTargetCapacity};
-    name[0] = 0;
+    TextOut t(name, kTargetCapacity);
     if (!target->varName) {
         t.text(u"???");
     } else {
         t.text(target->varName);
         if (target->varCount != 0 && target->count == 0) {
             t.put(u'[');
-            t.number(target->index);
+            t.decimal(target->index);
             t.put(u']');
         }
     }

@@ -7,16 +7,6 @@ namespace mx {
 
 namespace {
 
-int32_t openErrorCode(OpenError why) {
-    switch (why) {
-        case OpenError::kNotFound: return kErrFileNotFound;
-        case OpenError::kAccessDenied: return kErrFileAccess;
-        case OpenError::kExists: return kErrFileExists;
-        case OpenError::kTooManyOpen: return kErrTooManyFiles;
-        default: return kErrFile;
-    }
-}
-
 // The slot a handle names, or absent.
 MxpFile **slotOf(RunContext &ctx, int32_t handle) {
     if (handle < 1 || handle > kFileSlots || !ctx.files[handle - 1]) return nullptr;
@@ -31,7 +21,7 @@ int32_t fsOpenFile(RunContext &ctx, const char16_t *name, const char16_t *mode) 
         OpenError why = OpenError::kNone;
         ctx.files[slot] = mxp_FileOpen(name, mode, Share::kDenyReadWrite, &why);
         if (ctx.files[slot]) return slot + 1;
-        errSet(ctx, openErrorCode(why), name);
+        errSet(ctx, errOpenFailure(why), name);
         errShowMacroError(ctx);
         return 0;
     }

@@ -1,6 +1,7 @@
 // Writing a date-time record as text.
 #include <cstdlib>
 
+#include "engine/text_out.h"
 #include "engine/u16.h"
 #include "interface/kelvane/kelvane_date.h"
 
@@ -8,43 +9,18 @@ namespace mx {
 
 namespace {
 
-struct Out {
-    char16_t *buf;
-    int32_t cap;
-    int32_t len = 0;
-    void put(char16_t c) {
-        if (len < cap - 1) buf[len++] = c;
-    }
-    void text(const char16_t *s) {
-        for (; s && *s; ++s) put(*s);
-    }
-    // v with at least digits digits (zeros in front), a "-" before negatives.
-    void number(int32_t v, int32_t digits) {
-        if (v < 0) put(u'-');
-        uint32_t mag = v < 0 ? 0u - uint32_t(v) : uint32_t(v);
-        char16_t rev[10];
-        int32_t n = 0;
-        do {
-            rev[n++] = char16_t(u'0' + mag % 10);
-            mag /= 10;
-        } while (mag);
-        for (int32_t i = n; i < digits; ++i) put(u'0');
-        while (n > 0) put(rev[--n]);
-    }
-};
-
-void writeDirective(Out &out, const KdtDirective &d, const KelvaneDateTime *rec) {
+void writeDirective(TextOut &out, const KdtDirective &d, const KelvaneDateTime *rec) {
     int32_t digits = d.longForm ? 2 : 1;
     switch (d.field) {
-        case KdtField::kDay: out.number(rec->day, digits); break;
-        case KdtField::kMonth: out.number(rec->month, digits); break;
+        case KdtField::kDay: out.decimal(rec->day, digits); break;
+        case KdtField::kMonth: out.decimal(rec->month, digits); break;
         case KdtField::kYear:
-            if (d.longForm) out.number(rec->year, 4);
-            else out.number((rec->year < 0 ? -rec->year : rec->year) % 100, 2);
+            if (d.longForm) out.decimal(rec->year, 4);
+            else out.decimal((rec->year < 0 ? -rec->year : rec->year) % 100, 2);
             break;
-        case KdtField::kHour: out.number(rec->hour, digits); break;
-        case KdtField::kMinute: out.number(rec->minute, digits); break;
-        case KdtField::kSecond: out.number(rec->second, digits); break;
+        case KdtField::kHour: out.decimal(rec->hour, digits); break;
+        case KdtField::kMinute: out.decimal(rec->minute, digits); break;
+        case KdtField::kSecond: out.decimal(rec->second, digits); break;
         case KdtField::kMonthName: out.text(kdtMonthName(rec->month, d.longForm)); break;
         case KdtField::kWeekdayName: out.text(kdtWeekdayName(Get_Weekday(rec), d.longForm)); break;
         case KdtField::kPercent: out.put(u'%'); break;
@@ -89,7 +65,7 @@ int32_t DateTimeStruct_To_FormattedDateW(const KelvaneDateTime *rec, const char1
         dst[0] = 0;
         return 0;
     }
-    Out out{work, capacity};
+    TextOut out(work, capacity);
     for (const char16_t *f = format; *f;) {
         KdtDirective d = kdtDirectiveAt(f);
         if (d.field == KdtField::kNone) {
