@@ -44,7 +44,11 @@ int32_t rdPeek(RunContext &ctx, uint32_t flags) {
     return c;
 }
 
-bool rdIsIdentChar(char16_t c) { return c == u'_' || mxp_IsAlphaNumeric(c); }
+bool rdIsIdentChar(char16_t c) {
+    if (c < 0x80)  // the common case, without asking the platform
+        return c == u'_' || (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9');
+    return mxp_IsAlphaNumeric(c);
+}
 
 int32_t rdWord(RunContext &ctx, char16_t *buf, int32_t capacity) {
     rdPeek(ctx, kSkipWhite);
@@ -75,6 +79,8 @@ int32_t rdQuoted(RunContext &ctx, char16_t *buf, int32_t capacity) {
 }
 
 int32_t rdKeyword(const char16_t *word) {
+    // Every keyword starts with a lower-case letter; most words are names.
+    if (!word || word[0] < u'a' || word[0] > u'z') return kKwNone;
     for (int32_t i = 0; i < kKwStatic; ++i)
         if (u16Eq(word, kKeywords[i].english) || u16Eq(word, kKeywords[i].german)) return i + 1;
     return kKwNone;

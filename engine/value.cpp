@@ -15,8 +15,22 @@ int32_t valElementSize(int32_t type) {
     }
 }
 
+namespace {
+// An owning scalar carries its one element in the same block as its record:
+// formulas make and drop many of them, so this halves their allocations.
+struct Scalar {
+    Value value;
+    alignas(8) unsigned char element[8];
+};
+
+bool hasInlineElement(const Value *v) {
+    return v->data == reinterpret_cast<const Scalar *>(v)->element;
+}
+}  // namespace
+
 Value *valCreate(RunContext &ctx, int32_t type, int32_t kind, int32_t count) {
-    Value *v = static_cast<Value *>(std::calloc(1, sizeof(Value)));
+    bool scalar = kind == kOwning && count == 0;
+    Value *v = static_cast<Value *>(std::calloc(1, scalar ? sizeof(Scalar) : sizeof(Value)));
     if (!v) {
         errSet(ctx, kErrNoMemory);
         return nullptr;
@@ -24,7 +38,9 @@ Value *valCreate(RunContext &ctx, int32_t type, int32_t kind, int32_t count) {
     v->kind = kind;
     v->type = type;
     v->count = count;
-    if (kind == kOwning) {
+    if (scalar) {
+        v->data = reinterpret_cast<Scalar *>(v)->element;
+    } else if (kind == kOwning) {
         size_t n = count > 1 ? size_t(count) : 1;
         v->data = std::calloc(n, size_t(valElementSize(type) ? valElementSize(type) : 1));
         if (!v->data) {
@@ -56,7 +72,7 @@ Value *valNewChar(RunContext &ctx, char16_t x) {
 
 void valRelease(Value *v) {
     if (!v) return;
-    if (v->kind == kOwning) std::free(v->data);
+    if (v->kind == kOwning && !hasInlineElement(v)) std::free(v->data);
     std::free(v);
 }
 
