@@ -66,37 +66,39 @@ int32_t errFormatMessage(const RunContext &ctx, char16_t *buf, int32_t capacity)
     return u16Copy(buf, capacity, msg);
 }
 
+namespace {
+// A message record of the library's own texts: title 101, one error icon.
+KelvaneMessage libraryMessage(uint32_t textId, const char16_t *a1, const char16_t *a2,
+                              const char16_t *a3, uint32_t messageNumber) {
+    KelvaneMessage box{};
+    box.module = gProcess.module;
+    box.titleId = kErrTitle;
+    box.textId = textId;
+    box.tlxModule = gProcess.tlxModuleName;
+    box.args[0] = a1;
+    box.args[1] = a2;
+    box.args[2] = a3;
+    box.style = 1;
+    box.messageNumber = messageNumber;
+    return box;
+}
+}  // namespace
+
 void errShowMacroError(const RunContext &ctx) {
     char16_t message[kMessageCapacity];
     errFormatMessage(ctx, message, kMessageCapacity);
     char16_t line[16];
     u16FromLong(line, 16, ctx.line);
-    KelvaneMessage box{};
-    box.module = gProcess.module;
-    box.titleId = kErrTitle;
-    box.textId = kErrFrame;
-    box.tlxModule = gProcess.tlxModuleName;
-    box.args[0] = line;
-    box.args[1] = ctx.macroTitle;
-    box.args[2] = message;
-    box.style = 1;
-    box.messageNumber = kMacroErrorMessageNumber;
+    KelvaneMessage box =
+        libraryMessage(kErrFrame, line, ctx.macroTitle, message, kMacroErrorMessageNumber);
     box.owner = ctx.hostWindow;  // the box belongs to the host's window
     Kelvane_Message_BoxW(&box);
 }
 
 void errShowSystemError(uint32_t number, const char16_t *a1, const char16_t *a2,
                         const char16_t *a3) {
-    KelvaneMessage box{};
-    box.module = gProcess.module;
-    box.titleId = kErrTitle;
-    box.textId = number;
-    box.tlxModule = gProcess.tlxModuleName;
-    box.args[0] = a1;
-    box.args[1] = a2;
-    box.args[2] = a3;
-    box.style = 1;
-    box.messageNumber = Kelvane_Translate(number, kMessageNumbers, 0, kDefaultMessageNumber, 0);
+    KelvaneMessage box = libraryMessage(
+        number, a1, a2, a3, Kelvane_Translate(number, kMessageNumbers, 0, kDefaultMessageNumber, 0));
     Kelvane_Message_BoxW(&box);
 }
 

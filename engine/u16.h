@@ -42,6 +42,14 @@ inline int32_t u16Append(char16_t *dst, int32_t capacity, const char16_t *src) {
     return len + u16Copy(dst + len, capacity - len, src);
 }
 
+// The value of a hexadecimal digit (either case), -1 for anything else.
+inline int u16HexDigit(char16_t c) {
+    if (c >= u'0' && c <= u'9') return c - u'0';
+    if (c >= u'a' && c <= u'f') return c - u'a' + 10;
+    if (c >= u'A' && c <= u'F') return c - u'A' + 10;
+    return -1;
+}
+
 // Writes the decimal form of v into dst (capacity at least 12 suffices).
 int32_t u16FromLong(char16_t *dst, int32_t capacity, int32_t v);
 

@@ -4,14 +4,13 @@
 //
 // The built-ins that change files, profiles, the registry or start nested
 // runs are hidden behind host rows of the same names (host rows are searched
-// first), so that fuzzing never touches the machine; the process also works
-// in a scratch directory of its own.
+// first), so that fuzzing never touches the machine; profiles and the
+// registry are read from a scratch directory of their own.
 #include <cstddef>
 #include <cstdint>
 #include <algorithm>
 #include <cstdlib>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 #include "engine/statements.h"
@@ -44,23 +43,20 @@ LONG CALLBACK host(LONG, MX_VALUE **, LONG, LONG_PTR) { return 1; }
 LONG CALLBACK noAbort(void) { return 0; }
 void silent(const char16_t *, const char16_t *) {}
 
-const std::vector<MX_FUNCTION_ROW> &rows() {
-    static const std::vector<MX_FUNCTION_ROW> table = [] {
-        char dir[] = "/tmp/mxfuzz.XXXXXX";
-        if (mkdtemp(dir) && chdir(dir) == 0) {
-            setenv("MORVIX_WINDOWS_DIR", dir, 1);
-            setenv("MORVIX_REGISTRY_DIR", dir, 1);
-        }
-        return hostTable();
-    }();
-    return table;
-}
-
 }  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***) {
+    char dir[] = "/tmp/mxfuzz.XXXXXX";
+    if (mkdtemp(dir)) {
+        setenv("MORVIX_WINDOWS_DIR", dir, 1);
+        setenv("MORVIX_REGISTRY_DIR", dir, 1);
+    }
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     if (size > 4096) return 0;  // long inputs only slow the search down
-    const std::vector<MX_FUNCTION_ROW> &table = rows();
+    static const std::vector<MX_FUNCTION_ROW> table = hostTable();
     mx::mxp_SetBoxSink(silent);
     std::u16string text(data, data + size);
     mx::stFuzzTurnsLeft = 20000;

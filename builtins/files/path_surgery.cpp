@@ -27,25 +27,25 @@ int32_t psAssembleFilename(char16_t *dest, int32_t capacity, const char16_t *pat
     return 0;
 }
 
-int32_t psStripExtensionIn(char16_t *text, int32_t capacity) {
+namespace {
+// Runs a path edit on a text variable whose last unit is made a terminator
+// first, so that an unterminated vector is never read past its capacity.
+int32_t editInPlace(char16_t *text, int32_t capacity, int32_t (*edit)(char16_t *)) {
     if (!text || capacity < 1) return 0;
     text[capacity - 1] = 0;
-    psStripExtension(text);
+    edit(text);
     return 0;
+}
+}  // namespace
+
+int32_t psStripExtensionIn(char16_t *text, int32_t capacity) {
+    return editInPlace(text, capacity, psStripExtension<char16_t>);
 }
 
-int32_t psStripPathIn(char16_t *text, int32_t capacity) {
-    if (!text || capacity < 1) return 0;
-    text[capacity - 1] = 0;
-    psStripPath(text);
-    return 0;
-}
+int32_t psStripPathIn(char16_t *text, int32_t capacity) { return editInPlace(text, capacity, psStripPath<char16_t>); }
 
 int32_t psStripFilenameIn(char16_t *text, int32_t capacity) {
-    if (!text || capacity < 1) return 0;
-    text[capacity - 1] = 0;
-    psStripFilename(text);
-    return 0;
+    return editInPlace(text, capacity, psStripFilename<char16_t>);
 }
 
 }  // namespace mx

@@ -1,14 +1,9 @@
 #include "builtins/numbers/colours.h"
+#include "engine/u16.h"
 
 namespace mx {
 
 namespace {
-int hexDigit(char16_t c) {
-    if (c >= u'0' && c <= u'9') return c - u'0';
-    if (c >= u'a' && c <= u'f') return c - u'a' + 10;
-    if (c >= u'A' && c <= u'F') return c - u'A' + 10;
-    return -1;
-}
 
 void set(int32_t *target, int32_t v) {
     if (target) *target = v;
@@ -20,7 +15,7 @@ int32_t numHtmlToRgb(TextIn html, int32_t *red, int32_t *green, int32_t *blue) {
     if (txtLen(html) != 7 || html.s[0] != u'#') return -1;
     int32_t v[6];
     for (int32_t i = 0; i < 6; ++i)
-        if ((v[i] = hexDigit(html.s[i + 1])) < 0) return -1;
+        if ((v[i] = u16HexDigit(html.s[i + 1])) < 0) return -1;
     set(red, v[0] * 16 + v[1]), set(green, v[2] * 16 + v[3]), set(blue, v[4] * 16 + v[5]);
     return 0;
 }

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "engine/text_out.h"
 #include "engine/u16.h"
 #include "engine/value.h"
 #include "interface/process.h"
@@ -98,17 +99,7 @@ int32_t numFloatToDigitNames(double value, char16_t *dst, int32_t cap, TextIn se
     int32_t whole = doubleToLong(std::fabs(value));
     uint32_t mag = whole < 0 ? 0u - uint32_t(whole) : uint32_t(whole);
     char16_t number[12];
-    int32_t count = 0;
-    do {
-        number[count++] = char16_t(u'0' + mag % 10);
-        mag /= 10;
-    } while (mag);
-    number[count] = 0;
-    for (int32_t i = 0, j = count - 1; i < j; ++i, --j) {
-        char16_t t = number[i];
-        number[i] = number[j];
-        number[j] = t;
-    }
+    TextOut(number, 12).decimal(int64_t(mag));
     TextZ sep(separator);
     int32_t sepLen = u16Len(sep.get());
     int32_t len = 0;

@@ -1,21 +1,15 @@
 #include "interface/kelvane/kelvane_strings.h"
+#include "engine/u16.h"
 
 namespace mx {
 
 namespace {
 
-int hexValue(char16_t c) {
-    if (c >= u'0' && c <= u'9') return c - u'0';
-    if (c >= u'a' && c <= u'f') return c - u'a' + 10;
-    if (c >= u'A' && c <= u'F') return c - u'A' + 10;
-    return -1;
-}
-
 // The byte of an escape "%XY" at s, or -1.
 int escapedByte(const char16_t *s) {
     if (s[0] != u'%') return -1;
-    int hi = hexValue(s[1]);
-    int lo = hi < 0 ? -1 : hexValue(s[2]);
+    int hi = u16HexDigit(s[1]);
+    int lo = hi < 0 ? -1 : u16HexDigit(s[2]);
     return lo < 0 ? -1 : hi * 16 + lo;
 }
 
