@@ -7,39 +7,43 @@
 
 namespace mx {
 
-inline void utf8Append(std::string &out, uint32_t cp) {
+// The UTF-8 bytes of code point cp into b; returns their count (1 to 4).
+inline int utf8Encode(uint32_t cp, char b[4]) {
     if (cp < 0x80) {
-        out += char(cp);
-    } else if (cp < 0x800) {
-        out += char(0xC0 | (cp >> 6));
-        out += char(0x80 | (cp & 0x3F));
-    } else if (cp < 0x10000) {
-        out += char(0xE0 | (cp >> 12));
-        out += char(0x80 | ((cp >> 6) & 0x3F));
-        out += char(0x80 | (cp & 0x3F));
-    } else {
-        out += char(0xF0 | (cp >> 18));
-        out += char(0x80 | ((cp >> 12) & 0x3F));
-        out += char(0x80 | ((cp >> 6) & 0x3F));
-        out += char(0x80 | (cp & 0x3F));
+        b[0] = char(cp);
+        return 1;
     }
+    int n = cp < 0x800 ? 2 : cp < 0x10000 ? 3 : 4;
+    static const unsigned char kLead[5] = {0, 0, 0xC0, 0xE0, 0xF0};
+    for (int k = n - 1; k > 0; --k, cp >>= 6) b[k] = char(0x80 | (cp & 0x3F));
+    b[0] = char(kLead[n] | cp);
+    return n;
+}
+
+inline void utf8Append(std::string &out, uint32_t cp) {
+    char b[4];
+    out.append(b, size_t(utf8Encode(cp, b)));
+}
+
+// The code point at s[*i] of a text of n units: a surrogate pair counts once
+// (advancing *i past its first half), an unpaired surrogate is U+FFFD.
+inline uint32_t utf16CodePointAt(const char16_t *s, int64_t n, int64_t *i) {
+    uint32_t c = s[*i];
+    if (c >= 0xD800 && c < 0xDC00 && *i + 1 < n && s[*i + 1] >= 0xDC00 && s[*i + 1] < 0xE000) {
+        ++*i;
+        return 0x10000 + ((c - 0xD800) << 10) + (s[*i] - 0xDC00u);
+    }
+    return c >= 0xD800 && c < 0xE000 ? 0xFFFD : c;
 }
 
 // n units of s (n < 0: up to the terminator) as UTF-8.
 inline std::string toUtf8(const char16_t *s, int64_t n = -1) {
     std::string out;
     if (!s) return out;
-    for (int64_t i = 0; n < 0 ? s[i] != 0 : i < n; ++i) {
-        uint32_t c = s[i];
-        bool more = n < 0 ? s[i + 1] != 0 : i + 1 < n;
-        if (c >= 0xD800 && c < 0xDC00 && more && s[i + 1] >= 0xDC00 && s[i + 1] < 0xE000) {
-            c = 0x10000 + ((c - 0xD800) << 10) + (s[i + 1] - 0xDC00);
-            ++i;
-        } else if (c >= 0xD800 && c < 0xE000) {
-            c = 0xFFFD;
+    if (n < 0)
+        for (n = 0; s[n]; ++n) {
         }
-        utf8Append(out, c);
-    }
+    for (int64_t i = 0; i < n; ++i) utf8Append(out, utf16CodePointAt(s, n, &i));
     return out;
 }
 

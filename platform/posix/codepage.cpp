@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/utf8.h"
 #include "platform/codepage.h"
 
 namespace mx {
@@ -115,35 +116,11 @@ int32_t wideTo8Bit(uint32_t codePage, const char16_t *text, int32_t n, Sink<char
     return sink.result();
 }
 
-void putUtf8(Sink<char> &sink, uint32_t cp) {
-    if (cp < 0x80) {
-        sink.put(char(cp));
-    } else if (cp < 0x800) {
-        sink.put(char(0xC0 | (cp >> 6)));
-        sink.put(char(0x80 | (cp & 0x3F)));
-    } else if (cp < 0x10000) {
-        sink.put(char(0xE0 | (cp >> 12)));
-        sink.put(char(0x80 | ((cp >> 6) & 0x3F)));
-        sink.put(char(0x80 | (cp & 0x3F)));
-    } else {
-        sink.put(char(0xF0 | (cp >> 18)));
-        sink.put(char(0x80 | ((cp >> 12) & 0x3F)));
-        sink.put(char(0x80 | ((cp >> 6) & 0x3F)));
-        sink.put(char(0x80 | (cp & 0x3F)));
-    }
-}
-
 int32_t wideToUtf8(const char16_t *text, int32_t n, Sink<char> &sink) {
-    for (int32_t i = 0; i < n && !sink.overflow; ++i) {
-        uint32_t c = text[i];
-        bool high = c >= 0xD800 && c < 0xDC00;
-        if (high && i + 1 < n && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000) {
-            c = 0x10000 + ((c - 0xD800) << 10) + (text[i + 1] - 0xDC00u);
-            ++i;
-        } else if (c >= 0xD800 && c < 0xE000) {
-            c = 0xFFFD;
-        }
-        putUtf8(sink, c);
+    for (int64_t i = 0; i < n && !sink.overflow; ++i) {
+        char b[4];
+        int count = utf8Encode(utf16CodePointAt(text, n, &i), b);
+        for (int k = 0; k < count; ++k) sink.put(b[k]);
     }
     return sink.result();
 }
