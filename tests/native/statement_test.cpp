@@ -2,6 +2,7 @@
 // declarations, and the line numbers that errors report.
 #include <gtest/gtest.h>
 
+#include "interface/process.h"
 #include "macro_harness.h"
 
 namespace {
@@ -124,4 +125,14 @@ TEST(Statement, NestingIsLimitedInsteadOfExhaustingTheStack) {
     CoreRun deep = runCore(u16(blocks(5000)));
     EXPECT_EQ(deep.errorCode, 131);
     EXPECT_EQ(deep.output, "");
+}
+
+TEST(Statement, DetachReleasesTheStatics) {
+    ASSERT_EQ(runCore(u"static int detachedSoon; detachedSoon = 4;").errorCode, 0);
+    mx::processDetach();
+    mx::processAttach(nullptr);
+    // Gone: declaring it again succeeds and it reads as a new variable.
+    CoreRun r = runCore(u"static int detachedSoon; Print(detachedSoon);");
+    EXPECT_EQ(r.errorCode, 0);
+    EXPECT_EQ(r.output, "0\n");
 }
