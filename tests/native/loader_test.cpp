@@ -126,3 +126,11 @@ TEST_F(FileFixture, TooLargeAfterNormalisingFails) {
     EXPECT_EQ(r.errorCode, 152);
     EXPECT_EQ(r.errorArg, dir + "/big.mac");
 }
+
+TEST(Loader, MemoryMacrosTooLargeAfterNormalisingFailWithoutArgument) {
+    std::u16string text;
+    for (int i = 0; i < 40; ++i) text += u"\"\n";
+    CoreRun r = runCore(text);
+    EXPECT_EQ(r.errorCode, 152);
+    EXPECT_EQ(r.errorArg, "");
+}
