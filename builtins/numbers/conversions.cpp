@@ -65,8 +65,9 @@ int32_t numStringToFloat(TextIn s, double *value, char16_t sep) {
     double v = 0;
     bool secondSign = start < n && (work[start] == '+' || work[start] == '-');
     auto r = std::from_chars(work + start, work + n, v, std::chars_format::fixed);
-    if (secondSign || r.ec != std::errc()) v = 0;  // no digits (99 digits never leave the range)
-    if (value) *value = (start && work[0] == '-') ? -v : v;
+    bool read = !secondSign && r.ec == std::errc();  // 99 digits never leave the range
+    if (!read) v = 0;  // nothing read is a plain 0, whatever sign stood before it
+    if (value) *value = (read && start && work[0] == '-') ? -v : v;
     return 0;
 }
 

@@ -77,6 +77,21 @@ TEST(NumberConversions, StringToFloatUsesTheRunsSeparator) {
     }
 }
 
+// A sign without digits reads nothing, which is a plain 0 (a macro would
+// otherwise print "-0.000000"); "-0" itself reads as the negative zero.
+TEST(NumberConversions, StringToFloatWithoutDigitsGivesPositiveZero) {
+    const struct {
+        const char16_t *text;
+        bool negative;
+    } cases[] = {{u"-", false}, {u"--3", false}, {u"-+3", false}, {u"-.", false}, {u"- x", false}, {u"-0", true}};
+    for (auto &c : cases) {
+        double v = 99;
+        numStringToFloat(TextIn(std::u16string(c.text)), &v, u'.');
+        EXPECT_EQ(v, 0) << u8(c.text);
+        EXPECT_EQ(std::signbit(v), c.negative) << u8(c.text);
+    }
+}
+
 TEST(NumberConversions, StringToFloatKeepsAtMost99Characters) {
     std::u16string text(98, u'0');
     text += u"123";  // kept: 98 zeros and "1"
