@@ -2,6 +2,9 @@
 
 #include <charconv>
 
+#include "engine/text_out.h"
+#include "engine/u16.h"
+
 namespace mx {
 
 namespace {
@@ -22,14 +25,11 @@ int32_t numIntToString(int32_t value, char16_t *result, int32_t cap, char16_t di
     }
     // The magnitude as unsigned: -2147483648 has no positive long.
     uint32_t mag = value < 0 ? 0u - uint32_t(value) : uint32_t(value);
-    char16_t rev[10];
-    int32_t m = 0;
-    do {
-        rev[m++] = char16_t(u'0' + mag % 10);
-        mag /= 10;
-    } while (mag);
+    char16_t magnitude[12];
+    TextOut(magnitude, 12).decimal(int64_t(mag));
+    int32_t m = u16Len(magnitude);
     for (int32_t i = m; i < d; ++i) text[n++] = lead;
-    while (m > 0) text[n++] = rev[--m];
+    for (int32_t i = 0; i < m; ++i) text[n++] = magnitude[i];
     text[n] = 0;
     // A zero lead ends the text at the first fill position, as a text does.
     txtCopy(result, cap, TextIn(text, n + 1));
