@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "xml/xml_model.h"
 #include "xml/xml_parser.h"
 #include "xml/xml_writer.h"

@@ -5,7 +5,7 @@
 
 #include "engine/errors.h"
 #include "engine/reader.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 
 namespace mx {
 

@@ -3,7 +3,7 @@
 #include "engine/errors.h"
 #include "engine/reader.h"
 #include "engine/variables.h"
-#include "interface/process.h"
+#include "engine/process_state.h"
 
 namespace mx {
 

@@ -1,8 +1,8 @@
 #include "engine/errors.h"
 
-#include "engine/u16.h"
-#include "interface/kelvane/kelvane_message.h"
-#include "interface/process.h"
+#include "base/u16.h"
+#include "helperlib/kelvane_message.h"
+#include "engine/process_state.h"
 #include "platform/platform.h"
 
 namespace mx {

@@ -3,7 +3,7 @@
 #pragma once
 #include <cstdint>
 
-#include "interface/run_context.h"
+#include "engine/run_context.h"
 #include "platform/files.h"
 
 namespace mx {

@@ -4,7 +4,7 @@
 
 #include "engine/command_words.h"
 #include "engine/errors.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 

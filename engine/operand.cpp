@@ -3,11 +3,11 @@
 #include <charconv>
 #include <cstddef>
 
-#include "builtins/call.h"
+#include "engine/call.h"
 #include "engine/collect.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "engine/value.h"
 #include "engine/variables.h"
 #include "platform/platform.h"

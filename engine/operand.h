@@ -2,7 +2,7 @@
 // constants, function calls, variables and vector elements.
 #pragma once
 #include "engine/types.h"
-#include "interface/run_context.h"
+#include "engine/run_context.h"
 
 namespace mx {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "engine/types.h"
-#include "interface/run_context.h"
+#include "engine/run_context.h"
 
 namespace mx {
 

@@ -1,7 +1,7 @@
 #include "engine/reader.h"
 
 #include "engine/errors.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "platform/platform.h"
 
 namespace mx {

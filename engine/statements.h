@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "engine/declare.h"
-#include "interface/run_context.h"
+#include "engine/run_context.h"
 
 namespace mx {
 

@@ -2,8 +2,8 @@
 
 #include <charconv>
 
-#include "engine/text_out.h"
-#include "engine/u16.h"
+#include "base/text_out.h"
+#include "base/u16.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 

@@ -5,16 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/handles.h"
+
 namespace mx {
-
-#if defined(_WIN32) && !defined(_WIN64)
-#define MX_CALLCONV __stdcall
-#else
-#define MX_CALLCONV
-#endif
-
-using ModuleHandle = void *;
-using WindowHandle = void *;
 
 enum ValueKind : int32_t { kReference = 1, kOwning = 2 };
 enum ValueType : int32_t { kChar = 1, kLong = 2, kDouble = 3 };

@@ -3,9 +3,9 @@
 #include <cstdlib>
 
 #include "engine/errors.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "engine/value.h"
-#include "interface/process.h"
+#include "engine/process_state.h"
 
 namespace mx {
 

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "engine/statements.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "morvix.h"
 #include "platform/platform.h"
 

@@ -2,7 +2,7 @@
 // nothing.
 #include <windows.h>
 
-#include "interface/process.h"
+#include "interface/attach.h"
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     switch (reason) {

@@ -3,10 +3,12 @@
 #include "morvix.h"
 
 #include "builtins/table.h"
-#include "interface/kelvane/kelvane_text.h"
-#include "interface/kelvane/kelvane_version.h"
-#include "interface/process.h"
-#include "interface/run_driver.h"
+#include "helperlib/kelvane_text.h"
+#include "helperlib/kelvane_version.h"
+#include "engine/process_state.h"
+#include "interface/attach.h"
+#include "engine/run_driver.h"
+#include "interface/run_entry.h"
 
 namespace {
 

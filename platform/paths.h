@@ -12,7 +12,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/types.h"
+#include "base/handles.h"
 
 namespace mx {
 

@@ -5,7 +5,7 @@
 #pragma once
 #include <cstdint>
 
-#include "engine/types.h"
+#include "base/handles.h"
 
 namespace mx {
 

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 
 namespace {
 const char16_t *core(const WCHAR *s) { return reinterpret_cast<const char16_t *>(s); }

@@ -1,7 +1,7 @@
 // morvix: runs a macro on Linux. Boxes the library shows go to standard error.
 #include <cstdio>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "host_common.h"
 
 int main(int argc, char **argv) {

@@ -4,9 +4,9 @@
 #include <set>
 #include <vector>
 
-#include "builtins/dispatch.h"
+#include "engine/dispatcher.h"
 #include "builtins/table.h"
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "tools/function_descriptions.h"
 
 namespace mxdoc {
@@ -108,7 +108,7 @@ std::string docFunctions(const std::map<uint32_t, Group> &groups) {
                docCell(docField(g, &FunctionRow::signature, docSignature)) + " | " +
                docCell(docField(g, &FunctionRow::paramNames, docParams)) + " | " +
                docCell(what ? what : "(no description)") + " | " +
-               (mx::biImplemented(int32_t(number)) ? "yes" : "no") + " |\n";
+               (mx::dispatchImplemented(int32_t(number)) ? "yes" : "no") + " |\n";
     }
     return out;
 }

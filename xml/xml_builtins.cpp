@@ -3,8 +3,9 @@
 #include <new>
 #include <string>
 
-#include "builtins/args.h"
-#include "builtins/dispatch.h"
+#include "engine/args.h"
+#include "engine/function_numbers.h"
+#include "xml/xml_family.h"
 #include "xml/xml_functions.h"
 
 namespace mx {
@@ -53,8 +54,8 @@ int32_t writeFile(RunContext &, Value **args, int32_t) {
 }
 
 const DispatchEntry kEntries[] = {
-    {301, create},  {302, destroy}, {303, getRoot},
-    {304, addChild}, {305, setAttr}, {306, writeFile},
+    {fnum::XMLCreate, create},  {fnum::XMLDelete, destroy}, {fnum::XMLGetRoot, getRoot},
+    {fnum::XMLAddChild, addChild}, {fnum::XMLSetAttr, setAttr}, {fnum::XMLWriteFile, writeFile},
 };
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "xml/xml_functions.h"
 
 #include "engine/errors.h"
-#include "interface/kelvane/kelvane_xml.h"
+#include "helperlib/kelvane_xml.h"
 #include "xml/xml_encoding.h"
 #include "xml/xml_handles.h"
 #include "xml/xml_model.h"

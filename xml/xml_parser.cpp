@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "platform/files.h"
 #include "xml/xml_alloc.h"
 #include "xml/xml_encoding.h"

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-#include "builtins/args.h"
+#include "engine/args.h"
 
 namespace mx {
 

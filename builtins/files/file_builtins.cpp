@@ -1,12 +1,13 @@
 // Dispatch entries of the files built-ins: each reads its arguments as its
 // signature hands them over and calls the plain implementation.
-#include "builtins/args.h"
-#include "builtins/dispatch.h"
+#include "engine/args.h"
+#include "engine/function_numbers.h"
+#include "builtins/families.h"
 #include "builtins/files/file_args.h"
 #include "builtins/files/file_lists.h"
 #include "builtins/files/file_ops.h"
 #include "builtins/files/modules.h"
-#include "builtins/files/path_surgery.h"
+#include "base/path_surgery.h"
 #include "builtins/files/profiles.h"
 #include "builtins/files/registry_access.h"
 #include "builtins/files/streams.h"
@@ -166,23 +167,23 @@ int32_t scanDirectory(RunContext &, A a, int32_t) {
 }
 
 const DispatchEntry kEntries[] = {
-    {1, copyFile},           {2, openFile},
-    {3, closeFile},          {4, readFile},
-    {5, writeFile},          {6, renameFile},
-    {7, deleteFile},         {9, createDirectory},
-    {46, assembleFilename},  {47, stripExtension},
-    {48, stripPath},         {49, stripFilename},
-    {57, readProfile},       {58, writeProfile},
-    {59, getAppName},        {60, getWindowsPath},
-    {73, makeFilelist},      {80, getProgPath},
-    {105, readStringFromRegistry}, {106, writeStringToRegistry},
-    {112, scanDirectory},    {123, getTempFileName},
-    {136, readIntFromRegistry},    {137, writeIntToRegistry},
-    {141, getCurrentPath},   {147, getModuleVersion},
-    {152, loadFile},         {162, readColorFromRegistry},
-    {163, writeColorToRegistry},   {167, deleteProfileItem},
-    {168, deleteProfileSection},   {169, deleteRegistryItem},
-    {170, deleteRegistryKey},      {187, longToShortFilename},
+    {fnum::CopyFile, copyFile},           {fnum::OpenFile, openFile},
+    {fnum::CloseFile, closeFile},          {fnum::ReadFile, readFile},
+    {fnum::WriteFile, writeFile},          {fnum::RenameFile, renameFile},
+    {fnum::DeleteFile, deleteFile},         {fnum::CreateDirectory, createDirectory},
+    {fnum::AssembleFilename, assembleFilename},  {fnum::StripExtension, stripExtension},
+    {fnum::StripPath, stripPath},         {fnum::StripFilename, stripFilename},
+    {fnum::ReadProfile, readProfile},       {fnum::WriteProfile, writeProfile},
+    {fnum::GetAppName, getAppName},        {fnum::GetUserPath, getWindowsPath},
+    {fnum::MakeFilelist, makeFilelist},      {fnum::GetProgPath, getProgPath},
+    {fnum::ReadStringFromRegistry, readStringFromRegistry}, {fnum::WriteStringToRegistry, writeStringToRegistry},
+    {fnum::ScanDirectory, scanDirectory},    {fnum::GetTempFileName, getTempFileName},
+    {fnum::ReadIntFromRegistry, readIntFromRegistry},    {fnum::WriteIntToRegistry, writeIntToRegistry},
+    {fnum::GetCurrentPath, getCurrentPath},   {fnum::GetModuleVersion, getModuleVersion},
+    {fnum::LoadFile, loadFile},         {fnum::ReadColorFromRegistry, readColorFromRegistry},
+    {fnum::WriteColorToRegistry, writeColorToRegistry},   {fnum::DeleteProfileItem, deleteProfileItem},
+    {fnum::DeleteProfileSection, deleteProfileSection},   {fnum::DeleteRegistryItem, deleteRegistryItem},
+    {fnum::DeleteRegistryKey, deleteRegistryKey},      {fnum::LongToShortFilename, longToShortFilename},
 };
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include <cstring>
 #include <string>
 
-#include "engine/utf8.h"
-#include "interface/kelvane/kelvane_files.h"
+#include "base/utf8.h"
+#include "helperlib/kelvane_files.h"
 #include "platform/paths.h"
 
 namespace mx {

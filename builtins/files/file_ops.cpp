@@ -1,7 +1,7 @@
 #include "builtins/files/file_ops.h"
 
-#include "engine/u16.h"
-#include "interface/kelvane/kelvane_files.h"
+#include "base/u16.h"
+#include "helperlib/kelvane_files.h"
 #include "platform/files.h"
 
 namespace mx {

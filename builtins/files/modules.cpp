@@ -1,9 +1,9 @@
 #include "builtins/files/modules.h"
 
 #include "builtins/files/file_args.h"
-#include "builtins/files/path_surgery.h"
+#include "base/path_surgery.h"
 #include "builtins/files/version_format.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "platform/paths.h"
 
 namespace mx {

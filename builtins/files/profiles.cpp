@@ -1,8 +1,8 @@
 #include "builtins/files/profiles.h"
 
 #include "builtins/files/file_args.h"
-#include "builtins/files/path_surgery.h"
-#include "engine/u16.h"
+#include "base/path_surgery.h"
+#include "base/u16.h"
 #include "platform/paths.h"
 #include "platform/profile.h"
 

@@ -1,6 +1,6 @@
 #include "builtins/files/registry_access.h"
 
-#include "interface/kelvane/kelvane_registry.h"
+#include "helperlib/kelvane_registry.h"
 
 namespace mx {
 

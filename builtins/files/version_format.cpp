@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <string>
 
-#include "engine/u16.h"
+#include "base/u16.h"
 
 namespace mx {
 

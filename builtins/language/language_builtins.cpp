@@ -1,12 +1,13 @@
 // Dispatch entries of the language's own built-ins: variables, nested runs,
 // macro parameters, the string escape and tracing.
-#include "builtins/args.h"
-#include "builtins/dispatch.h"
+#include "engine/args.h"
+#include "engine/function_numbers.h"
+#include "builtins/families.h"
 #include "builtins/language/nested_run.h"
 #include "builtins/language/trace_switches.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "engine/variables.h"
-#include "interface/process.h"
+#include "engine/process_state.h"
 
 namespace mx {
 
@@ -56,16 +57,16 @@ int32_t biTraceAssign(RunContext &ctx, Value **a, int32_t) {
 int32_t biTraceFile(RunContext &ctx, Value **a, int32_t) { return lgTraceFile(ctx, argText(a[0])); }
 
 const DispatchEntry kEntries[] = {
-    {28, biDim},
-    {31, biIsDeclared},
-    {32, biCall},
-    {33, biGetMacroParameter},
-    {82, biSetStringEscape},
-    {96, biTraceDialog},
-    {97, biTraceFunction},
-    {98, biTraceAssign},
-    {99, biTraceFile},
-    {192, biCallWithParams},
+    {fnum::Dim, biDim},
+    {fnum::IsDeclared, biIsDeclared},
+    {fnum::Call, biCall},
+    {fnum::GetMacroParameter, biGetMacroParameter},
+    {fnum::SetStringEscape, biSetStringEscape},
+    {fnum::TraceDialog, biTraceDialog},
+    {fnum::TraceFunction, biTraceFunction},
+    {fnum::TraceAssign, biTraceAssign},
+    {fnum::TraceFile, biTraceFile},
+    {fnum::CallWithParams, biCallWithParams},
 };
 
 }  // namespace

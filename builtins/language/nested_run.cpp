@@ -5,8 +5,8 @@
 #include "engine/command_words.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
-#include "engine/u16.h"
-#include "interface/run_driver.h"
+#include "base/u16.h"
+#include "engine/run_driver.h"
 
 namespace mx {
 

@@ -2,7 +2,7 @@
 #pragma once
 #include <cstdint>
 
-#include "interface/run_context.h"
+#include "engine/run_context.h"
 
 namespace mx {
 

@@ -1,5 +1,5 @@
 #include "builtins/numbers/colours.h"
-#include "engine/u16.h"
+#include "base/u16.h"
 
 namespace mx {
 

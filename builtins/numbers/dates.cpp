@@ -1,7 +1,7 @@
 #include "builtins/numbers/dates.h"
 
-#include "interface/kelvane/kelvane_date.h"
-#include "interface/kelvane/kelvane_text.h"
+#include "helperlib/kelvane_date.h"
+#include "helperlib/kelvane_text.h"
 
 namespace mx {
 

@@ -3,10 +3,10 @@
 #include <charconv>
 #include <cmath>
 
-#include "engine/text_out.h"
-#include "engine/u16.h"
+#include "base/text_out.h"
+#include "base/u16.h"
 #include "engine/value.h"
-#include "interface/process.h"
+#include "engine/process_state.h"
 #include "platform/platform.h"
 
 namespace mx {

@@ -1,15 +1,16 @@
 // Dispatch entries of the number, date and conversion built-ins: each
 // handler reads its bound arguments as its signature hands them over and
 // calls the implementation or the helper library.
-#include "builtins/args.h"
-#include "builtins/dispatch.h"
+#include "engine/args.h"
+#include "engine/function_numbers.h"
+#include "builtins/families.h"
 #include "builtins/numbers/colours.h"
 #include "builtins/numbers/conversions.h"
 #include "builtins/numbers/dates.h"
 #include "builtins/numbers/float_format.h"
 #include "builtins/numbers/phone.h"
-#include "engine/u16.h"
-#include "interface/kelvane/kelvane_date.h"
+#include "base/u16.h"
+#include "helperlib/kelvane_date.h"
 
 namespace mx {
 
@@ -108,16 +109,16 @@ int32_t hPhoneNumberToInternational(RunContext &, Value **a, int32_t) {
 }
 
 const DispatchEntry kEntries[] = {
-    {10, hIntToString},       {11, hStringToInt},        {12, hFloatToString},
-    {14, hStringToFloat},     {83, hFloatToDigitNames},  {84, hModulo},
-    {85, hGetToday},          {86, hFormatDate},         {95, hGetTodayFormatted},
-    {101, hDmToEuro},         {102, hEuroToDm},          {103, hDateToInt},
-    {104, hIntToDate},        {110, hDisassembleDate},   {111, hAssembleDate},
-    {130, hFormatDateForSql}, {132, hGetWeekday},        {134, hGetEasterSunday},
-    {142, hGetCurrentDate},   {143, hGetCurrentTime},    {178, hHtmlToRgb},
-    {179, hRgbToHtml},        {180, hPhoneNumberToInternational}, {182, hGetWeekdayFromYMD},
-    {183, hGetMonthLng},      {184, hIsSunday},          {185, hIsHoliday},
-    {186, hIsSchoolHoliday},  {193, hDisassembleIsoDate}, {194, hWeekdayToName},
+    {fnum::IntToString, hIntToString},       {fnum::StringToInt, hStringToInt},        {fnum::FloatToString, hFloatToString},
+    {fnum::StringToFloat, hStringToFloat},     {fnum::FloatToDigitNames, hFloatToDigitNames},  {fnum::Modulo, hModulo},
+    {fnum::GetToday, hGetToday},          {fnum::FormatDate, hFormatDate},         {fnum::GetTodayFormatted, hGetTodayFormatted},
+    {fnum::DmToEuro, hDmToEuro},         {fnum::EuroToDm, hEuroToDm},          {fnum::DateToInt, hDateToInt},
+    {fnum::IntToDate, hIntToDate},        {fnum::DisassembleDate, hDisassembleDate},   {fnum::AssembleDate, hAssembleDate},
+    {fnum::FormatDateForSql, hFormatDateForSql}, {fnum::GetWeekday, hGetWeekday},        {fnum::GetEasterSunday, hGetEasterSunday},
+    {fnum::GetCurrentDate, hGetCurrentDate},   {fnum::GetCurrentTime, hGetCurrentTime},    {fnum::HtmlToRgb, hHtmlToRgb},
+    {fnum::RgbToHtml, hRgbToHtml},        {fnum::PhoneNumberToInternational, hPhoneNumberToInternational}, {fnum::GetWeekdayFromYMD, hGetWeekdayFromYMD},
+    {fnum::GetMonthLng, hGetMonthLng},      {fnum::IsSunday, hIsSunday},          {fnum::IsHoliday, hIsHoliday},
+    {fnum::IsSchoolHoliday, hIsSchoolHoliday},  {fnum::DisassembleIsoDate, hDisassembleIsoDate}, {fnum::WeekdayToName, hWeekdayToName},
 };
 
 }  // namespace

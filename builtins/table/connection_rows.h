@@ -7,27 +7,27 @@ namespace mx::rows {
 
 inline constexpr FunctionRow kConnectionRows[] = {
     // DDE client.
-    {u"DDEInitiate", 88, u"C[]C[]LLL", u"Prg, Topic, Window, Prg-Start, Activation"},
-    {u"DDETerminate", 89, u"L", u"Channel"},
-    {u"DDEExecute", 90, u"LC[]L", u"Channel, Commands, WaitMilliSecs"},
-    {u"DDEPoke", 91, u"LC[]C[]L", u"Channel, Item, Data, WaitMilliSecs"},
-    {u"DDERequest", 92, u"LC[]L*C[]L", u"Channel, Item, Format, Data, WaitMilliSecs"},
+    {u"DDEInitiate", fnum::DDEInitiate, u"C[]C[]LLL", u"Prg, Topic, Window, Prg-Start, Activation"},
+    {u"DDETerminate", fnum::DDETerminate, u"L", u"Channel"},
+    {u"DDEExecute", fnum::DDEExecute, u"LC[]L", u"Channel, Commands, WaitMilliSecs"},
+    {u"DDEPoke", fnum::DDEPoke, u"LC[]C[]L", u"Channel, Item, Data, WaitMilliSecs"},
+    {u"DDERequest", fnum::DDERequest, u"LC[]L*C[]L", u"Channel, Item, Format, Data, WaitMilliSecs"},
 
     // ODBC access.
-    {u"OdbcConnect", 200, u"C[]C[]C[]L", u"Datasource, UserId, Passwort, Flags"},
-    {u"OdbcDisconnect", 201, u"L", u"Handle"},
-    {u"OdbcPerformSql", 202, u"LC[]L", u"Handle, Statement, Flags"},
-    {u"OdbcSelectLine", 203, u"LC[]*C[]L", u"Handle, SelectStatement, DestBuff, Flags"},
-    {u"OdbcSelect", 204, u"LC[]C[]L", u"Handle, SelectStatement, DestFile, Flags"},
-    {u"OdbcCountRecords", 205, u"LC[]C[]L", u"Handle, Table, WhereClause, Flags"},
-    {u"OdbcAddFields", 206, u"LC[]C[]C[]*DL", u"Handle, Table, Field, WhereClause, Result, Flags"},
-    {u"OdbcGetMaximum", 207, u"LC[]C[]C[]*DL", u"Handle, Table, Field, WhereClause, Result, Flags"},
-    {u"OdbcDateToSqlConst", 208, u"L*C[]LLL", u"Handle, Result, Day, Month, Year"},
+    {u"OdbcConnect", fnum::OdbcConnect, u"C[]C[]C[]L", u"Datasource, UserId, Passwort, Flags"},
+    {u"OdbcDisconnect", fnum::OdbcDisconnect, u"L", u"Handle"},
+    {u"OdbcPerformSql", fnum::OdbcPerformSql, u"LC[]L", u"Handle, Statement, Flags"},
+    {u"OdbcSelectLine", fnum::OdbcSelectLine, u"LC[]*C[]L", u"Handle, SelectStatement, DestBuff, Flags"},
+    {u"OdbcSelect", fnum::OdbcSelect, u"LC[]C[]L", u"Handle, SelectStatement, DestFile, Flags"},
+    {u"OdbcCountRecords", fnum::OdbcCountRecords, u"LC[]C[]L", u"Handle, Table, WhereClause, Flags"},
+    {u"OdbcAddFields", fnum::OdbcAddFields, u"LC[]C[]C[]*DL", u"Handle, Table, Field, WhereClause, Result, Flags"},
+    {u"OdbcGetMaximum", fnum::OdbcGetMaximum, u"LC[]C[]C[]*DL", u"Handle, Table, Field, WhereClause, Result, Flags"},
+    {u"OdbcDateToSqlConst", fnum::OdbcDateToSqlConst, u"L*C[]LLL", u"Handle, Result, Day, Month, Year"},
 
     // Report engine.
-    {u"RunPreview", 128, u"C[]C[]L", u"Report, Datasource, Flags"},
-    {u"RunReport", 127, u"C[]C[]L", u"Report, Datasource, Flags"},
-    {u"RunReportExtended", 135, u"C[]C[]C[]C[]C[]LLLL",
+    {u"RunPreview", fnum::RunPreview, u"C[]C[]L", u"Report, Datasource, Flags"},
+    {u"RunReport", fnum::RunReport, u"C[]C[]L", u"Report, Datasource, Flags"},
+    {u"RunReportExtended", fnum::RunReportExtended, u"C[]C[]C[]C[]C[]LLLL",
      u"Report, Datasource, Printer, OutputFile, DocName, FromPage, ToPage, Copies, Flags"},
 };
 

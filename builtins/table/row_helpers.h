@@ -4,12 +4,13 @@
 #pragma once
 #include <cstdint>
 
+#include "engine/function_numbers.h"
 #include "engine/types.h"
 
 namespace mx::rows {
 
 // German spellings carry the spelling flag on top of the function number,
-// so `kDe | 15` reads "function 15, German row" (identifier 65551).
+// so `kDe | fnum::LeftString` reads "function 15, German row" (identifier 65551).
 constexpr uint32_t kDe = kSpellingFlag;
 
 // A named constant: a row without signature whose identifier is its value.

@@ -5,12 +5,12 @@
 namespace mx::rows {
 
 inline constexpr FunctionRow kXmlRows[] = {
-    {u"XMLCreate", 301, u"C[]C[]", u"rootNode, code"},
-    {u"XMLDelete", 302, u"L", u"xmlctl"},
-    {u"XMLGetRoot", 303, u"L", u"xmlctl"},
-    {u"XMLAddChild", 304, u"LC[]C[]", u"node, name, content"},
-    {u"XMLSetAttr", 305, u"LC[]C[]", u"node, name, value"},
-    {u"XMLWriteFile", 306, u"LC[]L", u"xmlctl, filename, flags"},
+    {u"XMLCreate", fnum::XMLCreate, u"C[]C[]", u"rootNode, code"},
+    {u"XMLDelete", fnum::XMLDelete, u"L", u"xmlctl"},
+    {u"XMLGetRoot", fnum::XMLGetRoot, u"L", u"xmlctl"},
+    {u"XMLAddChild", fnum::XMLAddChild, u"LC[]C[]", u"node, name, content"},
+    {u"XMLSetAttr", fnum::XMLSetAttr, u"LC[]C[]", u"node, name, value"},
+    {u"XMLWriteFile", fnum::XMLWriteFile, u"LC[]L", u"xmlctl, filename, flags"},
 };
 
 }  // namespace mx::rows

@@ -1,7 +1,8 @@
 // Dispatch entries of the text built-ins: each handler reads its bound
 // arguments as its signature hands them over and calls the implementation.
-#include "builtins/args.h"
-#include "builtins/dispatch.h"
+#include "engine/args.h"
+#include "engine/function_numbers.h"
+#include "builtins/families.h"
 #include "builtins/text/case.h"
 #include "builtins/text/cutting.h"
 #include "builtins/text/format.h"
@@ -111,17 +112,17 @@ int32_t hCreateHash(RunContext &, Value **a, int32_t) { return txtCreateHash(in(
 int32_t hFindString(RunContext &, Value **a, int32_t) { return txtFindString(in(a[0]), in(a[1])); }
 
 const DispatchEntry kEntries[] = {
-    {15, hLeftString},      {16, hRightString},     {17, hMidString},       {18, hFillStringLeft},
-    {19, hFillStringRight}, {20, hStrCat},          {21, hStrCmp},          {22, hStrStr},
-    {23, hStringToUpper},   {24, hStringToLower},   {25, hStrLen},          {26, hToUpper},
-    {27, hToLower},         {30, hStripControl},    {40, hIsAlpha},         {41, hIsAlphaNumeric},
-    {61, hCopyText},        {62, hCopyText},        {70, hStrDelim},        {87, hTrimRight},
-    {93, hTrimLeft},        {109, hTransformString}, {120, hMakeText1},     {121, hMakeText2},
-    {122, hMakeText3},      {124, hIsDigitString},  {125, hMakeText4},      {126, hMakeText5},
-    {129, hEncloseString},  {133, hGetSubString},   {144, hReplaceString},  {146, hIsStringWhite},
-    {148, hMakeTextInt},    {149, hDecodeString},   {171, hCreateHash},     {174, hStripLeft},
-    {175, hStripMid},       {176, hStripRight},     {177, hFindString},     {181, hMD5},
-    {190, hStripNonDigits},
+    {fnum::LeftString, hLeftString},      {fnum::RightString, hRightString},     {fnum::MidString, hMidString},       {fnum::FillStringLeft, hFillStringLeft},
+    {fnum::FillStringRight, hFillStringRight}, {fnum::StrCat, hStrCat},          {fnum::StrCmp, hStrCmp},          {fnum::StrStr, hStrStr},
+    {fnum::StringToUpper, hStringToUpper},   {fnum::StringToLower, hStringToLower},   {fnum::StrLen, hStrLen},          {fnum::ToUpper, hToUpper},
+    {fnum::ToLower, hToLower},         {fnum::StripControl, hStripControl},    {fnum::IsAlpha, hIsAlpha},         {fnum::IsAlphaNumeric, hIsAlphaNumeric},
+    {fnum::AsciiToAnsi, hCopyText},        {fnum::AnsiToAscii, hCopyText},        {fnum::StrDelim, hStrDelim},        {fnum::TrimRight, hTrimRight},
+    {fnum::TrimLeft, hTrimLeft},        {fnum::TransformString, hTransformString}, {fnum::MakeText1, hMakeText1},     {fnum::MakeText2, hMakeText2},
+    {fnum::MakeText3, hMakeText3},      {fnum::IsDigitString, hIsDigitString},  {fnum::MakeText4, hMakeText4},      {fnum::MakeText5, hMakeText5},
+    {fnum::EncloseString, hEncloseString},  {fnum::GetSubString, hGetSubString},   {fnum::ReplaceString, hReplaceString},  {fnum::IsStringWhite, hIsStringWhite},
+    {fnum::MakeTextInt, hMakeTextInt},    {fnum::DecodeString, hDecodeString},   {fnum::CreateHash, hCreateHash},     {fnum::StripLeft, hStripLeft},
+    {fnum::StripMid, hStripMid},       {fnum::StripRight, hStripRight},     {fnum::FindString, hFindString},     {fnum::MD5, hMD5},
+    {fnum::StripNonDigits, hStripNonDigits},
 };
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "builtins/text/text_helpers.h"
 
 #include "builtins/text/search.h"
-#include "interface/kelvane/kelvane_strings.h"
+#include "helperlib/kelvane_strings.h"
 
 namespace mx {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "platform/codepage.h"
 
 namespace mx {

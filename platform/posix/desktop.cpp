@@ -3,7 +3,7 @@
 // box that could not be shown.
 #include <cstdio>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "platform/platform.h"
 
 namespace mx {

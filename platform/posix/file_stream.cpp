@@ -6,7 +6,7 @@
 
 #include <cerrno>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "platform/files.h"
 #include "platform/posix/file_mode.h"
 #include "platform/posix/file_share.h"

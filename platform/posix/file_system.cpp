@@ -10,8 +10,8 @@
 #include <cstdio>
 #include <random>
 
-#include "engine/u16.h"
-#include "engine/utf8.h"
+#include "base/u16.h"
+#include "base/utf8.h"
 #include "platform/files.h"
 #include "platform/posix/file_share.h"
 

@@ -10,8 +10,8 @@
 #include <cerrno>
 #include <cstdlib>
 
-#include "engine/u16.h"
-#include "engine/utf8.h"
+#include "base/u16.h"
+#include "base/utf8.h"
 
 namespace mx {
 

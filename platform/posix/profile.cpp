@@ -4,8 +4,8 @@
 // are UTF-8 without a mark). Every change replaces the file atomically.
 #include <cstring>
 
-#include "engine/u16.h"
-#include "engine/utf8.h"
+#include "base/u16.h"
+#include "base/utf8.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/posix/profile_text.h"

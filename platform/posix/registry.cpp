@@ -7,7 +7,7 @@
 
 #include <cstdlib>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/posix/registry_store.h"

@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "platform/posix/name_fold.h"
 
 namespace mx {

@@ -1,6 +1,6 @@
 // The native build compiles the string table in (generated from
 // resources/messages.txt) and knows its own version from the build.
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "mx_version.h"
 #include "platform/platform.h"
 

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <string>
 
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "platform/files.h"
 
 namespace mx {

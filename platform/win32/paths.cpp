@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "platform/paths.h"
 
 namespace mx {

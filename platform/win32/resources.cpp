@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <vector>
 
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "platform/platform.h"
 
 namespace mx {

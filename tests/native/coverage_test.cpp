@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "builtins/dispatch.h"
+#include "engine/dispatcher.h"
 #include "builtins/table.h"
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "macro_harness.h"
 
 namespace fs = std::filesystem;
@@ -73,7 +73,7 @@ TEST(Coverage, EveryImplementedFunctionHasAGoldenMacro) {
     std::vector<std::string> texts = goldenTexts();
     std::string missing;
     for (const auto &[number, names] : namesByNumber()) {
-        if (!mx::biImplemented(int32_t(number))) continue;
+        if (!mx::dispatchImplemented(int32_t(number))) continue;
         bool found = false;
         for (const std::string &text : texts)
             for (const char16_t *name : names) found = found || callsName(text, latin1(name));

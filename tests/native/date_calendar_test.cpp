@@ -5,7 +5,7 @@
 
 #include <ctime>
 
-#include "interface/kelvane/kelvane_date.h"
+#include "helperlib/kelvane_date.h"
 
 using namespace mx;
 

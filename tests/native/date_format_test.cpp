@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "builtins/numbers/dates.h"
-#include "interface/kelvane/kelvane_date.h"
+#include "helperlib/kelvane_date.h"
 #include "text_test_util.h"
 
 using namespace mx;

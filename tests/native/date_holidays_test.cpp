@@ -1,7 +1,7 @@
 // German public holidays and school holidays from a data file.
 #include <gtest/gtest.h>
 
-#include "interface/kelvane/kelvane_date.h"
+#include "helperlib/kelvane_date.h"
 #include "macro_harness.h"
 
 using namespace mx;

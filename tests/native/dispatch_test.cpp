@@ -2,8 +2,8 @@
 // numbers without implementation, and shared function numbers.
 #include <gtest/gtest.h>
 
-#include "builtins/dispatch.h"
-#include "interface/run_context.h"
+#include "engine/dispatcher.h"
+#include "engine/run_context.h"
 #include "macro_harness.h"
 
 namespace {
@@ -42,8 +42,8 @@ TEST(Dispatch, RowsWithoutImplementationYieldZero) {
     EXPECT_EQ(r.output, "0\n0\n0\n");
     mx::RunContext ctx;
     for (int32_t n : {0, -1, 94, 150, 151, 160, 161, 307, 8999, 9002, 65536})
-        EXPECT_EQ(mx::biDispatch(ctx, n, nullptr, 0), 0) << n;
-    for (int32_t n : {94, 150, 151, 160, 161}) EXPECT_FALSE(mx::biImplemented(n)) << n;
+        EXPECT_EQ(mx::dispatchCall(ctx, n, nullptr, 0), 0) << n;
+    for (int32_t n : {94, 150, 151, 160, 161}) EXPECT_FALSE(mx::dispatchImplemented(n)) << n;
 }
 
 TEST(Dispatch, EveryNameOfAFunctionNumberBehavesTheSame) {

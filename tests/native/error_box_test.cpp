@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/errors.h"
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "macro_harness.h"
 
 TEST(ErrorBox, NamesLineMacroAndMessage) {

@@ -8,12 +8,12 @@
 #include <filesystem>
 #include <set>
 
-#include "builtins/dispatch.h"
+#include "engine/dispatcher.h"
 #include "builtins/files/file_ops.h"
 #include "builtins/files/streams.h"
 #include "builtins/table.h"
-#include "engine/utf8.h"
-#include "interface/run_context.h"
+#include "base/utf8.h"
+#include "engine/run_context.h"
 #include "macro_harness.h"
 #include "platform/platform.h"
 
@@ -38,7 +38,7 @@ TEST(FileFamily, EveryFunctionOfTheFamilyIsImplementedUnderAllItsNames) {
         uint32_t number = row->identifier & kFunctionNumberMask;
         if (!row->signature || !numbers.count(number)) continue;
         seen.insert(number);
-        EXPECT_TRUE(biImplemented(int32_t(number))) << toUtf8(row->name);
+        EXPECT_TRUE(dispatchImplemented(int32_t(number))) << toUtf8(row->name);
     }
     EXPECT_EQ(seen, numbers);
 }

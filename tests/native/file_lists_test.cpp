@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "builtins/files/file_lists.h"
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "macro_harness.h"
 
 namespace fs = std::filesystem;

@@ -6,10 +6,10 @@
 #include <filesystem>
 
 #include "builtins/files/modules.h"
-#include "builtins/files/path_surgery.h"
+#include "base/path_surgery.h"
 #include "builtins/files/version_format.h"
-#include "engine/utf8.h"
-#include "interface/kelvane/kelvane_files.h"
+#include "base/utf8.h"
+#include "helperlib/kelvane_files.h"
 #include "macro_harness.h"
 
 namespace fs = std::filesystem;

@@ -7,7 +7,7 @@
 
 #include <filesystem>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "file_mode_cases.h"
 #include "macro_harness.h"
 #include "platform/files.h"

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "engine/loader.h"
-#include "engine/utf8.h"
-#include "interface/run_driver.h"
+#include "base/utf8.h"
+#include "engine/run_driver.h"
 #include "macro_harness.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "platform/platform.h"
 #include "tools/host_common.h"
 
@@ -81,7 +81,8 @@ std::string readFile(const std::string &path) {
 std::u16string u16(const std::string &utf8) { return mx::fromUtf8(utf8); }
 
 #include "engine/types.h"
-#include "interface/run_driver.h"
+#include "engine/run_driver.h"
+#include "interface/run_entry.h"
 
 CoreRun runCore(const std::u16string &text, bool file) {
     mx::RunRequest req{};

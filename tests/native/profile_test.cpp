@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "builtins/files/profiles.h"
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "file_profile_cases.h"
 #include "macro_harness.h"
 #include "platform/files.h"

@@ -9,8 +9,8 @@
 #include <filesystem>
 
 #include "builtins/files/registry_access.h"
-#include "engine/utf8.h"
-#include "interface/kelvane/kelvane_registry.h"
+#include "base/utf8.h"
+#include "helperlib/kelvane_registry.h"
 #include "macro_harness.h"
 #include "platform/posix/registry_store.h"
 #include "platform/registry.h"

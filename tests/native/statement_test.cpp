@@ -2,7 +2,8 @@
 // declarations, and the line numbers that errors report.
 #include <gtest/gtest.h>
 
-#include "interface/process.h"
+#include "engine/process_state.h"
+#include "interface/attach.h"
 #include "macro_harness.h"
 
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "builtins/table.h"
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "macro_harness.h"
 #include "tools/function_descriptions.h"
 #include "tools/mxdoc_render.h"

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "builtins/text/text_helpers.h"
-#include "interface/kelvane/kelvane_strings.h"
+#include "helperlib/kelvane_strings.h"
 #include "text_test_util.h"
 
 using namespace mx;

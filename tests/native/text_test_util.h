@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 
 namespace mxtest {
 

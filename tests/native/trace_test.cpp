@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/trace.h"
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "engine/value.h"
 #include "macro_harness.h"
 

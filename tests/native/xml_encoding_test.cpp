@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "platform/codepage.h"
 #include "xml/xml_alloc.h"
 #include "xml/xml_encoding.h"

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "xml/xml_alloc.h"
 #include "xml_test_util.h"
 

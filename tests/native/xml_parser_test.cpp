@@ -2,7 +2,7 @@
 // line and column, and round trips through the writer in every encoding.
 #include <gtest/gtest.h>
 
-#include "engine/u16.h"
+#include "base/u16.h"
 #include "xml/xml_alloc.h"
 #include "xml/xml_encoding.h"
 #include "xml/xml_parser.h"

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/utf8.h"
+#include "base/utf8.h"
 #include "macro_harness.h"
 #include "platform/platform.h"
 #include "xml/xml_model.h"

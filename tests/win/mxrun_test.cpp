@@ -25,8 +25,13 @@ std::string runCaptured(std::wstring command, const std::wstring &dir, DWORD *ex
     si.hStdOutput = si.hStdError = writeEnd;
     si.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
     PROCESS_INFORMATION pi{};
-    BOOL started = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                  dir.c_str(), &si, &pi);
+    // Wine now and then fails a process start while it is busy; try again.
+    BOOL started = FALSE;
+    for (int attempt = 0; attempt < 5 && !started; ++attempt) {
+        if (attempt) Sleep(200);
+        started = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                 dir.c_str(), &si, &pi);
+    }
     CloseHandle(writeEnd);
     std::string out;
     if (started) {

@@ -1,0 +1,40 @@
+// The dispatcher: from a built-in function number to its implementation.
+// The engine owns it but knows no implementation: each family of built-ins
+// lists its entries in a DispatchFamily, and the layer above installs the
+// families once, at attach. A number that no installed family lists has no
+// implementation and yields 0.
+#pragma once
+#include <cstdint>
+
+#include "engine/run_context.h"
+#include "engine/types.h"
+
+namespace mx {
+
+// Reads its arguments from the bound Values (see engine/args.h) and calls
+// the plain implementation.
+using BuiltinHandler = int32_t (*)(RunContext &ctx, Value **args, int32_t count);
+
+struct DispatchEntry {
+    int32_t number;
+    BuiltinHandler handler;
+};
+
+struct DispatchFamily {
+    const char *name;
+    const DispatchEntry *entries;
+    int32_t count;
+};
+
+// Makes the entries of the given families the implementations the dispatcher
+// calls, replacing whatever was installed before.
+void dispatchInstall(const DispatchFamily *const *families, int32_t count);
+
+// Numbers 9000 and 9001 first, then 1 to 306. Returns the
+// implementation's result, 0 for a number without one.
+int32_t dispatchCall(RunContext &ctx, int32_t number, Value **args, int32_t count);
+
+// True when an installed family implements number.
+bool dispatchImplemented(int32_t number);
+
+}  // namespace mx

@@ -1,0 +1,7 @@
+#include "engine/process_state.h"
+
+namespace mx {
+
+ProcessState gProcess;
+
+}  // namespace mx

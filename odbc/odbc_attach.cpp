@@ -1,0 +1,7 @@
+#include "odbc/odbc_attach.h"
+
+namespace mx {
+
+void odbcAttach() {}
+
+}  // namespace mx
