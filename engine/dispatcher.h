@@ -15,8 +15,12 @@ namespace mx {
 // the plain implementation.
 using BuiltinHandler = int32_t (*)(RunContext &ctx, Value **args, int32_t count);
 
+// One implemented function: its number, the signature its handler reads its
+// arguments by (the signature of the function's English table row), and the
+// handler.
 struct DispatchEntry {
     int32_t number;
+    const char16_t *reads;
     BuiltinHandler handler;
 };
 

@@ -29,33 +29,37 @@ const char16_t *textArg(Value *v, std::u16string &holder) {
     return holder.c_str();
 }
 
-int32_t create(RunContext &, Value **args, int32_t) {
+int32_t biXMLCreate(RunContext &, Value **args, int32_t) {
     std::u16string a, b;
     return xml::XMLCreate(textArg(args[0], a), textArg(args[1], b));
 }
 
-int32_t destroy(RunContext &, Value **args, int32_t) { return xml::XMLDelete(argLong(args[0])); }
+int32_t biXMLDelete(RunContext &, Value **args, int32_t) { return xml::XMLDelete(argLong(args[0])); }
 
-int32_t getRoot(RunContext &, Value **args, int32_t) { return xml::XMLGetRoot(argLong(args[0])); }
+int32_t biXMLGetRoot(RunContext &, Value **args, int32_t) { return xml::XMLGetRoot(argLong(args[0])); }
 
-int32_t addChild(RunContext &, Value **args, int32_t) {
+int32_t biXMLAddChild(RunContext &, Value **args, int32_t) {
     std::u16string a, b;
     return xml::XMLAddChild(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
 }
 
-int32_t setAttr(RunContext &, Value **args, int32_t) {
+int32_t biXMLSetAttr(RunContext &, Value **args, int32_t) {
     std::u16string a, b;
     return xml::XMLSetAttr(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
 }
 
-int32_t writeFile(RunContext &, Value **args, int32_t) {
+int32_t biXMLWriteFile(RunContext &, Value **args, int32_t) {
     std::u16string a;
     return xml::XMLWriteFile(argLong(args[0]), textArg(args[1], a), argLong(args[2]));
 }
 
 const DispatchEntry kEntries[] = {
-    {fnum::XMLCreate, create},  {fnum::XMLDelete, destroy}, {fnum::XMLGetRoot, getRoot},
-    {fnum::XMLAddChild, addChild}, {fnum::XMLSetAttr, setAttr}, {fnum::XMLWriteFile, writeFile},
+    {fnum::XMLCreate, u"C[]C[]", biXMLCreate},
+    {fnum::XMLDelete, u"L", biXMLDelete},
+    {fnum::XMLGetRoot, u"L", biXMLGetRoot},
+    {fnum::XMLAddChild, u"LC[]C[]", biXMLAddChild},
+    {fnum::XMLSetAttr, u"LC[]C[]", biXMLSetAttr},
+    {fnum::XMLWriteFile, u"LC[]L", biXMLWriteFile},
 };
 
 }  // namespace

@@ -57,16 +57,16 @@ int32_t biTraceAssign(RunContext &ctx, Value **a, int32_t) {
 int32_t biTraceFile(RunContext &ctx, Value **a, int32_t) { return lgTraceFile(ctx, argText(a[0])); }
 
 const DispatchEntry kEntries[] = {
-    {fnum::Dim, biDim},
-    {fnum::IsDeclared, biIsDeclared},
-    {fnum::Call, biCall},
-    {fnum::GetMacroParameter, biGetMacroParameter},
-    {fnum::SetStringEscape, biSetStringEscape},
-    {fnum::TraceDialog, biTraceDialog},
-    {fnum::TraceFunction, biTraceFunction},
-    {fnum::TraceAssign, biTraceAssign},
-    {fnum::TraceFile, biTraceFile},
-    {fnum::CallWithParams, biCallWithParams},
+    {fnum::Dim, u"X", biDim},
+    {fnum::IsDeclared, u"C[]", biIsDeclared},
+    {fnum::Call, u"C[]", biCall},
+    {fnum::GetMacroParameter, u"L*C[]", biGetMacroParameter},
+    {fnum::SetStringEscape, u"L", biSetStringEscape},
+    {fnum::TraceDialog, u"L", biTraceDialog},
+    {fnum::TraceFunction, u"L", biTraceFunction},
+    {fnum::TraceAssign, u"L", biTraceAssign},
+    {fnum::TraceFile, u"C[]", biTraceFile},
+    {fnum::CallWithParams, u"C[]C[]C[]C[]C[]C[]", biCallWithParams},
 };
 
 }  // namespace
