@@ -92,7 +92,7 @@ CoreRun runCore(const std::u16string &text, bool file) {
     req.hostCallback = reinterpret_cast<mx::HostCallback>(&capturePrint);
     req.countryCode = 1;
     mx::RunContext ctx;
-    mx::runInit(ctx, req);
+    mx::entryInit(ctx, req);
     CoreRun r;
     MacroRun m = capture([&] { return mx::runDriver(ctx); });
     r.result = m.result;
