@@ -1,7 +1,6 @@
 #include <windows.h>
 
-#include <cstdio>
-
+#include "base/text_out.h"
 #include "base/u16.h"
 #include "platform/paths.h"
 #include "platform/platform.h"
@@ -24,9 +23,12 @@ int32_t mxp_ModuleFileVersion(ModuleHandle module, char16_t *buf, int32_t capaci
     uint16_t v[4];
     if (!GetModuleFileNameW(static_cast<HMODULE>(module), path, MAX_PATH) || !mxp_FileVersion(narrow(path), v))
         return 0;
-    char text[64];
-    std::snprintf(text, sizeof text, "%u.%u.%u.%u", unsigned(v[0]), unsigned(v[1]), unsigned(v[2]), unsigned(v[3]));
-    return u16FromAscii(buf, capacity, text);
+    TextOut out(buf, capacity);
+    for (int i = 0; i < 4; ++i) {
+        if (i > 0) out.put(u'.');
+        out.decimal(v[i]);
+    }
+    return out.len;
 }
 
 }  // namespace mx
