@@ -2,6 +2,8 @@
 
 #include <new>
 
+#include "base/u16.h"
+
 #include "engine/errors.h"
 #include "helperlib/kelvane_modules.h"
 #include "report/module_binding.h"
@@ -35,7 +37,7 @@ void takeEntries(FormState *s, void *const *e) {
 
 }  // namespace
 
-int32_t formDialog(const char16_t *form, const char16_t *destFile, const char16_t *title,
+int32_t reportFormDialog(const char16_t *form, const char16_t *destFile, const char16_t *title,
                    int32_t height, int32_t width, int32_t mode, int32_t flags) {
     if (!form || !*form) return 2;
     FormState *state = new (std::nothrow) FormState{};
@@ -66,7 +68,7 @@ bool formOpen(FormState *s) {
 void formPrepare(FormState *s) {
     s->makeUntitled(s->formHandle);
     s->setWorkModeExt(s->formHandle, 1, 0x1400);
-    if (!bindIsBlank(s->destFile))
+    if (!u16IsWhiteText(s->destFile))
         s->loadFromProfileExtended(s->formHandle, s->destFile, u"Formatted", kFormBits, 0);
     s->performBeginMacro(s->formHandle);
     s->setHwndNotify(s->formHandle, s->dialog);
@@ -74,7 +76,7 @@ void formPrepare(FormState *s) {
 }
 
 void formSave(FormState *s) {
-    if (bindIsBlank(s->destFile)) return;
+    if (u16IsWhiteText(s->destFile)) return;
     s->saveToProfileExtended(s->formHandle, s->destFile, u"Formatted", kFormBits, 2);
     s->saveToProfileExtended(s->formHandle, s->destFile, u"Neutral", kFormBits, 1);
     s->dataAccess(s->formHandle, 0x321, s->destFile, 0);

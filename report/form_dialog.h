@@ -38,7 +38,7 @@ struct FormState {
 // first missing one), runs the dialog, unloads the module. Returns 1 when
 // the dialog ended with OK, 2 otherwise. Shows 153 when the state cannot
 // be made.
-int32_t formDialog(const char16_t *form, const char16_t *destFile, const char16_t *title,
+int32_t reportFormDialog(const char16_t *form, const char16_t *destFile, const char16_t *title,
                    int32_t height, int32_t width, int32_t mode, int32_t flags);
 
 // Runs template 10005 modally for state, owned by the active window.

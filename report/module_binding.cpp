@@ -34,11 +34,4 @@ bool bindEntryPoints(ModuleHandle module, const char16_t *path, const char16_t *
     return true;
 }
 
-bool bindIsBlank(const char16_t *text) {
-    if (!text) return true;
-    for (; *text; ++text)
-        if (*text > 32) return false;
-    return true;
-}
-
 }  // namespace mx

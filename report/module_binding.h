@@ -19,7 +19,4 @@ ModuleHandle bindLoadModule(const char16_t *path);
 bool bindEntryPoints(ModuleHandle module, const char16_t *path, const char16_t *const *names,
                      void **entries, int32_t count);
 
-// True when text is absent, empty or holds only codes 1 to 32.
-bool bindIsBlank(const char16_t *text);
-
 }  // namespace mx

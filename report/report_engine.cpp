@@ -61,7 +61,7 @@ struct Printer {
     // Prepares printer (blank: the default one). False when it has no
     // device mode or no device context can be made.
     bool prepare(const char16_t *printer) {
-        if (bindIsBlank(printer))
+        if (u16IsWhiteText(printer))
             Kelvane_GetStandardPrinterW(name, kPrinterCapacity, 0, 0, 0, 0);
         else
             KelvaneCopyStringW(name, printer, kPrinterCapacity);
@@ -85,7 +85,7 @@ const char16_t *reportModulePath(char16_t *path, int32_t capacity) {
     char16_t location[kAppPathCapacity];
     Kelvane_ReadStringFromHKCUW(u"Software\\Kelvane Software\\Report", u"Install", u"AppPath", u"",
                                 location, kAppPathCapacity);
-    if (bindIsBlank(location)) {
+    if (u16IsWhiteText(location)) {
         u16Copy(path, capacity, kModuleName);
     } else {
         // Used as stored: a trailing backslash gives a doubled one.
@@ -142,8 +142,8 @@ int32_t reportRunReportExtended(const char16_t *report, const char16_t *source,
     setProperty(handle, kPropCopies, copies, 0);
     setProperty(handle, kPropFromPage, fromPage, 0);
     setProperty(handle, kPropToPage, toPage, 0);
-    if (!bindIsBlank(outputFile)) declare(handle, outputFile, kOutputFile);
-    if (!bindIsBlank(docName)) declare(handle, docName, kOutputDocName);
+    if (!u16IsWhiteText(outputFile)) declare(handle, outputFile, kOutputFile);
+    if (!u16IsWhiteText(docName)) declare(handle, docName, kOutputDocName);
     print(handle, source);
     close(handle);
     return 1;

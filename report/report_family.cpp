@@ -51,7 +51,7 @@ int32_t biRunReportExtended(RunContext &, Value **args, int32_t) {
 
 int32_t biFormDialog(RunContext &, Value **args, int32_t) {
     std::u16string a, b, c;
-    return formDialog(textArg(args[0], a), textArg(args[1], b), textArg(args[2], c), argLong(args[3]),
+    return reportFormDialog(textArg(args[0], a), textArg(args[1], b), textArg(args[2], c), argLong(args[3]),
                       argLong(args[4]), argLong(args[5]), argLong(args[6]));
 }
 
