@@ -195,7 +195,7 @@ std::string sinkDecodeWords(const std::string &value) {
         size_t a = value.find("=?UTF-8?B?", i);
         if (a == std::string::npos) return out + value.substr(i);
         std::string between = value.substr(i, a - i);
-        if (between.find_first_not_of(" \t") != std::string::npos) out += between;
+        if (between.find_first_not_of(" \t\r\n") != std::string::npos) out += between;
         size_t b = value.find("?=", a + 10);
         if (b == std::string::npos) return out + value.substr(a);
         out += sinkBase64Decode(value.substr(a + 10, b - a - 10));

@@ -89,15 +89,16 @@ TEST(DesktopNative, CommandLinesSplitIntoWordsWithQuotes) {
 }
 
 TEST(DesktopNative, ExecuteProgramModalWaitsAndReportsTheExitCode) {
-    std::string longArg(4000, 'a');
     MacroRun r = run(
-        "int rc; rc = -7;"
+        "int rc; char cmd[4100]; int i; rc = -7;"
         "Print(ExecuteProgramModal(\"sh -c \\\"exit 3\\\"\", 0, rc)); Print(rc); rc = -7;"
         "Print(ExecuteProgramModal(\"/no/such/program x\", 1, rc)); Print(rc);"
         "Print(ExecuteProgramModal(\"\", 1, rc)); Print(rc);"
         "Print(ExecuteProgramModal(\"sh -c \\\"kill -9 $$\\\"\", 1, rc)); Print(rc);"
-        "Print(ExecuteProgramModal(\"true " + longArg + "\", 1, rc)); Print(rc);");
-    EXPECT_EQ(r.output, "0\n3\n2\n-7\n2\n-7\n0\n137\n0\n0\n");
+        "cmd = \"true \"; i = 0;"
+        "while (i < 400) begin StrCat(cmd, \"aaaaaaaaaa\"); i = i + 1; end "
+        "Print(StrLen(cmd)); Print(ExecuteProgramModal(cmd, 1, rc)); Print(rc);");
+    EXPECT_EQ(r.output, "0\n3\n2\n-7\n2\n-7\n0\n137\n4005\n0\n0\n");
 }
 
 TEST(DesktopNative, CreateProcessStartsWithoutWaitingAndLeavesNoChild) {

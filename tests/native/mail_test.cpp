@@ -62,7 +62,7 @@ TEST_F(Mail, AMailArrivesWithEveryRecipientHeadersSubjectTextAndAttachments) {
     EXPECT_EQ(sinkDecodeWords(sinkHeader(m.data, "Subject")),
               "Gr\xC3\xBC\xC3\x9F" "e \xD0\x9F\xD1\x80\xD0\xB8\xD0\xB2\xD0\xB5\xD1\x82 \xE6\x97\xA5\xE6\x9C\xAC "
               "\xE2\x80\x94 a subject long enough to need two encoded words");
-    EXPECT_NE(sinkHeader(m.data, "Subject").find("?=\r\n =?UTF-8?B?"), std::string::npos);
+    EXPECT_NE(sinkHeader(m.data, "Subject").find("?= =?UTF-8?B?"), std::string::npos);
     EXPECT_EQ(sinkHeader(m.data, "MIME-Version"), "1.0");
     EXPECT_EQ(partBody(m.data, "text/plain"), "Line 1\r\n.Line 2");
     EXPECT_EQ(partBody(m.data, "filename=\"data.bin\""), binary);
