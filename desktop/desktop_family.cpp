@@ -125,19 +125,19 @@ int32_t biOpenBrowser(RunContext &, Value **args, int32_t) {
 
 // The button bar and the command line: one request to the host window each.
 int32_t biAbbAppendButton(RunContext &ctx, Value **args, int32_t) {
-    return hostAppendButton(ctx.hostWindow, argLong(args[0]), argLong(args[1]), argLong(args[2]),
+    return dskAppendButton(ctx.hostWindow, argLong(args[0]), argLong(args[1]), argLong(args[2]),
                             argLong(args[3]));
 }
 
 int32_t biAbbDeleteButton(RunContext &ctx, Value **args, int32_t) {
-    return hostDeleteButton(ctx.hostWindow, argLong(args[0]));
+    return dskDeleteButton(ctx.hostWindow, argLong(args[0]));
 }
 
-int32_t biAbbDeleteAllButtons(RunContext &ctx, Value **, int32_t) { return hostDeleteAllButtons(ctx.hostWindow); }
+int32_t biAbbDeleteAllButtons(RunContext &ctx, Value **, int32_t) { return dskDeleteAllButtons(ctx.hostWindow); }
 
 int32_t setProperty(RunContext &ctx, Value **args, int32_t kind) {
     DskText text(args[1]);
-    return hostSetButtonProperty(ctx.hostWindow, argLong(args[0]), kind, text.get());
+    return dskSetButtonProperty(ctx.hostWindow, argLong(args[0]), kind, text.get());
 }
 
 int32_t biAbbSetButtonAction(RunContext &ctx, Value **args, int32_t) { return setProperty(ctx, args, kButtonAction); }
@@ -152,10 +152,10 @@ int32_t biAbbSetButtonPopupText(RunContext &ctx, Value **args, int32_t) {
     return setProperty(ctx, args, kButtonPopupText);
 }
 
-int32_t biGetCommandLineCount(RunContext &ctx, Value **, int32_t) { return hostCountParams(ctx.hostWindow); }
+int32_t biGetCommandLineCount(RunContext &ctx, Value **, int32_t) { return dskGetCommandLineCount(ctx.hostWindow); }
 
 int32_t biGetCommandLineParam(RunContext &ctx, Value **args, int32_t) {
-    return hostGetParam(ctx.hostWindow, argLong(args[0]), argText(args[1]), argCapacity(args[1]));
+    return dskGetCommandLineParam(ctx.hostWindow, argLong(args[0]), argText(args[1]), argCapacity(args[1]));
 }
 
 const DispatchEntry kEntries[] = {

@@ -16,7 +16,7 @@ int32_t done(intptr_t reply) { return reply == kHostDone ? 0 : -1; }
 
 }  // namespace
 
-int32_t hostAppendButton(WindowHandle host, int32_t command, int32_t height, int32_t width,
+int32_t dskAppendButton(WindowHandle host, int32_t command, int32_t height, int32_t width,
                          int32_t state) {
     ButtonRequest r;
     r.mode = 1;
@@ -27,15 +27,15 @@ int32_t hostAppendButton(WindowHandle host, int32_t command, int32_t height, int
     return done(send(host, kHostAppendButton, &r));
 }
 
-int32_t hostDeleteButton(WindowHandle host, int32_t command) {
+int32_t dskDeleteButton(WindowHandle host, int32_t command) {
     ButtonRequest r;
     r.command = command;
     return done(send(host, kHostDeleteButton, &r));
 }
 
-int32_t hostDeleteAllButtons(WindowHandle host) { return done(send(host, kHostDeleteAllButtons, nullptr)); }
+int32_t dskDeleteAllButtons(WindowHandle host) { return done(send(host, kHostDeleteAllButtons, nullptr)); }
 
-int32_t hostSetButtonProperty(WindowHandle host, int32_t command, int32_t kind, const char16_t *text) {
+int32_t dskSetButtonProperty(WindowHandle host, int32_t command, int32_t kind, const char16_t *text) {
     ButtonRequest r;
     r.command = command;
     r.kind = kind;
@@ -43,7 +43,7 @@ int32_t hostSetButtonProperty(WindowHandle host, int32_t command, int32_t kind, 
     return done(send(host, kHostSetButtonProperty, &r));
 }
 
-int32_t hostGetParam(WindowHandle host, int32_t number, char16_t *buffer, int32_t capacity) {
+int32_t dskGetCommandLineParam(WindowHandle host, int32_t number, char16_t *buffer, int32_t capacity) {
     CommandLineRequest r;
     r.number = number;
     r.capacity = capacity;
@@ -51,6 +51,6 @@ int32_t hostGetParam(WindowHandle host, int32_t number, char16_t *buffer, int32_
     return done(send(host, kHostGetParam, &r));
 }
 
-int32_t hostCountParams(WindowHandle host) { return int32_t(send(host, kHostCountParams, nullptr)); }
+int32_t dskGetCommandLineCount(WindowHandle host) { return int32_t(send(host, kHostCountParams, nullptr)); }
 
 }  // namespace mx

@@ -53,15 +53,15 @@ struct CommandLineRequest {
 
 // Each sends one request to host (0: no window, which answers 0) and returns
 // 0 when the host answered 4711, else -1.
-int32_t hostAppendButton(WindowHandle host, int32_t command, int32_t height, int32_t width,
+int32_t dskAppendButton(WindowHandle host, int32_t command, int32_t height, int32_t width,
                          int32_t state);
-int32_t hostDeleteButton(WindowHandle host, int32_t command);
-int32_t hostDeleteAllButtons(WindowHandle host);
-int32_t hostSetButtonProperty(WindowHandle host, int32_t command, int32_t kind, const char16_t *text);
-int32_t hostGetParam(WindowHandle host, int32_t number, char16_t *buffer, int32_t capacity);
+int32_t dskDeleteButton(WindowHandle host, int32_t command);
+int32_t dskDeleteAllButtons(WindowHandle host);
+int32_t dskSetButtonProperty(WindowHandle host, int32_t command, int32_t kind, const char16_t *text);
+int32_t dskGetCommandLineParam(WindowHandle host, int32_t number, char16_t *buffer, int32_t capacity);
 
 // The host's answer to the count request, as it stands (0 from a host that
 // does not know the message).
-int32_t hostCountParams(WindowHandle host);
+int32_t dskGetCommandLineCount(WindowHandle host);
 
 }  // namespace mx

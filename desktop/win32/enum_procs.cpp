@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include "desktop/title_pattern.h"
+#include "platform/win32/wide.h"
 
 using namespace mx;
 
@@ -26,7 +27,7 @@ extern "C" BOOL CALLBACK GetWindowEnumProc(HWND window, LPARAM search) {
     wchar_t title[256];
     int n = GetWindowTextW(window, title, 256);
     title[n > 0 ? n : 0] = 0;
-    if (!dskTitleMatches(reinterpret_cast<const char16_t *>(title), s->pattern)) return TRUE;
+    if (!dskTitleMatches(narrow(title), s->pattern)) return TRUE;
     s->found = window;
     return FALSE;
 }
@@ -44,7 +45,7 @@ extern "C" BOOL CALLBACK GetHwndOfModuleEnumProc(HWND window, LPARAM search) {
     wchar_t path[MAX_PATH];
     DWORD n = instance ? GetModuleFileNameW(instance, path, MAX_PATH) : 0;
     if (n == 0 || n >= MAX_PATH || !s->module) return TRUE;
-    if (!sameModule(path, reinterpret_cast<const wchar_t *>(s->module))) return TRUE;
+    if (!sameModule(path, wide(s->module))) return TRUE;
     s->found = window;
     return FALSE;
 }

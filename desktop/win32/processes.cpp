@@ -7,17 +7,16 @@
 
 #include "base/u16.h"
 #include "desktop/processes.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
 namespace {
 
-const wchar_t *wz(const char16_t *s) { return reinterpret_cast<const wchar_t *>(s ? s : u""); }
-
 // Starts commandLine (CreateProcessW may write into its command line, so it
 // gets a copy). False with the last error set when it cannot.
 bool start(const char16_t *commandLine, int32_t showMode, DWORD flags, PROCESS_INFORMATION *pi) {
-    std::wstring line(wz(commandLine));
+    std::wstring line(wideOrEmpty(commandLine));
     STARTUPINFOW si{};
     si.cb = sizeof si;
     si.dwFlags = STARTF_USESHOWWINDOW;
@@ -53,15 +52,15 @@ int32_t dskExecuteModal(const char16_t *commandLine, int32_t showFlag, int32_t *
 }
 
 int32_t dskShellExecute(const char16_t *file, const char16_t *verb, int32_t showFlags) {
-    HINSTANCE r = ShellExecuteW(nullptr, wz(verb), wz(file), nullptr, L"", showFlags);
+    HINSTANCE r = ShellExecuteW(nullptr, wideOrEmpty(verb), wideOrEmpty(file), nullptr, L"", showFlags);
     return reinterpret_cast<INT_PTR>(r) <= 32 ? -1 : 0;
 }
 
 int32_t dskFindExecutable(const char16_t *file, char16_t *program, int32_t capacity) {
     wchar_t found[MAX_PATH] = {};
-    HINSTANCE r = FindExecutableW(wz(file), L"", found);
+    HINSTANCE r = FindExecutableW(wideOrEmpty(file), L"", found);
     if (reinterpret_cast<INT_PTR>(r) <= 32) return -1;
-    u16Copy(program, capacity, reinterpret_cast<const char16_t *>(found));
+    u16Copy(program, capacity, narrow(found));
     return 0;
 }
 
@@ -72,7 +71,7 @@ int32_t dskGetEnvironment(const char16_t *name, char16_t *value, int32_t capacit
     key[n] = 0;
     const wchar_t *found = _wgetenv(key);
     if (!found) return -1;
-    u16Copy(value, capacity, reinterpret_cast<const char16_t *>(found));
+    u16Copy(value, capacity, narrow(found));
     return 0;
 }
 

@@ -4,6 +4,7 @@
 #include "base/u16.h"
 #include "desktop/enum_procs.h"
 #include "desktop/windows.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
@@ -27,7 +28,7 @@ int32_t dskGetTitle(WindowHandle window, char16_t *buffer, int32_t capacity) {
         buffer[0] = 0;
         return 0;
     }
-    return GetWindowTextW(hw(window), reinterpret_cast<wchar_t *>(buffer), capacity);
+    return GetWindowTextW(hw(window), wide(buffer), capacity);
 }
 
 int32_t dskGetClientSize(WindowHandle window, int32_t *height, int32_t *width) {
