@@ -30,7 +30,7 @@ int32_t biGetTitle(RunContext &, Value **args, int32_t) {
 }
 
 int32_t biGetWindowClientSize(RunContext &, Value **args, int32_t) {
-    return dskGetClientSize(handleArg(args[0]), argLongRef(args[1]), argLongRef(args[2]));
+    return dskGetWindowClientSize(handleArg(args[0]), argLongRef(args[1]), argLongRef(args[2]));
 }
 
 int32_t biWindowMaximize(RunContext &, Value **args, int32_t) { return dskShowWindow(handleArg(args[0]), 3); }
@@ -38,10 +38,10 @@ int32_t biWindowMinimize(RunContext &, Value **args, int32_t) { return dskShowWi
 int32_t biWindowResize(RunContext &, Value **args, int32_t) { return dskShowWindow(handleArg(args[0]), 9); }
 
 int32_t biWindowActivate(RunContext &, Value **args, int32_t) {
-    return handleResult(dskActivate(handleArg(args[0])));
+    return handleResult(dskWindowActivate(handleArg(args[0])));
 }
 
-int32_t biWindowGetActive(RunContext &, Value **, int32_t) { return handleResult(dskActiveWindow()); }
+int32_t biWindowGetActive(RunContext &, Value **, int32_t) { return handleResult(dskWindowGetActive()); }
 
 int32_t biMdiGetActive(RunContext &ctx, Value **, int32_t) {
     return handleResult(dskMdiGetActive(ctx.hostWindow));
@@ -63,8 +63,8 @@ int32_t biSendMessage(RunContext &, Value **args, int32_t) {
     return int32_t(answer);
 }
 
-int32_t biGetScreenHeight(RunContext &, Value **, int32_t) { return dskScreenHeight(); }
-int32_t biGetScreenWidth(RunContext &, Value **, int32_t) { return dskScreenWidth(); }
+int32_t biGetScreenHeight(RunContext &, Value **, int32_t) { return dskGetScreenHeight(); }
+int32_t biGetScreenWidth(RunContext &, Value **, int32_t) { return dskGetScreenWidth(); }
 int32_t biBeep(RunContext &, Value **args, int32_t) { return dskBeep(argLong(args[0])); }
 
 int32_t biReadClipboard(RunContext &ctx, Value **args, int32_t) {
@@ -98,7 +98,7 @@ int32_t biCreateProcess(RunContext &, Value **args, int32_t) {
 
 int32_t biExecuteProgramModal(RunContext &, Value **args, int32_t) {
     DskText line(args[0]);
-    return dskExecuteModal(line.get(), argLong(args[1]), argLongRef(args[2]));
+    return dskExecuteProgramModal(line.get(), argLong(args[1]), argLongRef(args[2]));
 }
 
 int32_t biShellExecute(RunContext &, Value **args, int32_t) {

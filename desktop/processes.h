@@ -13,7 +13,7 @@ int32_t dskCreateProcess(const char16_t *commandLine, int32_t showMode);
 // Starts commandLine with show mode showFlag (0: 5, shown) and waits without
 // time limit for its end; *exitCode = its exit code. Returns 0, or the
 // platform's error number (2 for a missing program) with *exitCode unchanged.
-int32_t dskExecuteModal(const char16_t *commandLine, int32_t showFlag, int32_t *exitCode);
+int32_t dskExecuteProgramModal(const char16_t *commandLine, int32_t showFlag, int32_t *exitCode);
 
 // The shell performs verb on file with show mode showFlags. Returns 0, -1 on
 // failure (an unknown verb, no association, no shell).

@@ -22,7 +22,7 @@ int32_t dskGetTitle(WindowHandle window, char16_t *buffer, int32_t capacity);
 
 // *height, *width = the client area's size in pixels (0, 0 for no window).
 // Returns 0.
-int32_t dskGetClientSize(WindowHandle window, int32_t *height, int32_t *width);
+int32_t dskGetWindowClientSize(WindowHandle window, int32_t *height, int32_t *width);
 
 // Shows window with the platform's show mode (3 maximized, 6 minimized,
 // 9 restored). Returns 0.
@@ -31,10 +31,10 @@ int32_t dskShowWindow(WindowHandle window, int32_t showMode);
 // Activates window's top enabled ancestor (restoring it when minimized) and
 // gives window the focus. Returns the window that had the focus before, 0
 // when window is no window or disabled (then nothing changes).
-WindowHandle dskActivate(WindowHandle window);
+WindowHandle dskWindowActivate(WindowHandle window);
 
 // The active window of the calling thread, 0 when none.
-WindowHandle dskActiveWindow();
+WindowHandle dskWindowGetActive();
 
 // Sends (wait != 0, blocking until handled) or posts message to window.
 // Returns the window's answer, or for a post non-zero on success.
@@ -42,8 +42,8 @@ intptr_t dskSendMessage(WindowHandle window, uint32_t message, uintptr_t wParam,
                         bool wait);
 
 // Primary screen height and width in pixels; 0 without a screen.
-int32_t dskScreenHeight();
-int32_t dskScreenWidth();
+int32_t dskGetScreenHeight();
+int32_t dskGetScreenWidth();
 
 // Plays the message sound of mode: 33 ('!') exclamation, 63 ('?') question,
 // anything else information. Returns 0.

@@ -15,7 +15,7 @@ int32_t dskCreateProcess(const char16_t *commandLine, int32_t) {
     return mxp_SpawnDetached(dskCommandWords(commandLine)) == 0 ? 0 : -1;
 }
 
-int32_t dskExecuteModal(const char16_t *commandLine, int32_t, int32_t *exitCode) {
+int32_t dskExecuteProgramModal(const char16_t *commandLine, int32_t, int32_t *exitCode) {
     return mxp_SpawnAndWait(dskCommandWords(commandLine), exitCode);
 }
 

@@ -14,18 +14,18 @@ int32_t dskGetTitle(WindowHandle, char16_t *buffer, int32_t capacity) {
     return 0;
 }
 
-int32_t dskGetClientSize(WindowHandle, int32_t *height, int32_t *width) {
+int32_t dskGetWindowClientSize(WindowHandle, int32_t *height, int32_t *width) {
     *height = 0;
     *width = 0;
     return 0;
 }
 
 int32_t dskShowWindow(WindowHandle, int32_t) { return 0; }
-WindowHandle dskActivate(WindowHandle) { return nullptr; }
-WindowHandle dskActiveWindow() { return nullptr; }
+WindowHandle dskWindowActivate(WindowHandle) { return nullptr; }
+WindowHandle dskWindowGetActive() { return nullptr; }
 intptr_t dskSendMessage(WindowHandle, uint32_t, uintptr_t, intptr_t, bool) { return 0; }
-int32_t dskScreenHeight() { return 0; }
-int32_t dskScreenWidth() { return 0; }
+int32_t dskGetScreenHeight() { return 0; }
+int32_t dskGetScreenWidth() { return 0; }
 int32_t dskBeep(int32_t) { return 0; }
 
 WindowHandle dskMdiClient(WindowHandle) { return nullptr; }

@@ -35,7 +35,7 @@ int32_t dskCreateProcess(const char16_t *commandLine, int32_t showMode) {
     return 0;
 }
 
-int32_t dskExecuteModal(const char16_t *commandLine, int32_t showFlag, int32_t *exitCode) {
+int32_t dskExecuteProgramModal(const char16_t *commandLine, int32_t showFlag, int32_t *exitCode) {
     PROCESS_INFORMATION pi;
     if (!start(commandLine, showFlag ? showFlag : SW_SHOW, NORMAL_PRIORITY_CLASS, &pi))
         return int32_t(GetLastError());

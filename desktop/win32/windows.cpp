@@ -31,7 +31,7 @@ int32_t dskGetTitle(WindowHandle window, char16_t *buffer, int32_t capacity) {
     return GetWindowTextW(hw(window), wide(buffer), capacity);
 }
 
-int32_t dskGetClientSize(WindowHandle window, int32_t *height, int32_t *width) {
+int32_t dskGetWindowClientSize(WindowHandle window, int32_t *height, int32_t *width) {
     RECT r{};
     GetClientRect(hw(window), &r);
     *height = r.bottom - r.top;
@@ -44,7 +44,7 @@ int32_t dskShowWindow(WindowHandle window, int32_t showMode) {
     return 0;
 }
 
-WindowHandle dskActivate(WindowHandle window) {
+WindowHandle dskWindowActivate(WindowHandle window) {
     HWND before = GetFocus();
     HWND w = hw(window);
     if (!IsWindow(w) || !IsWindowEnabled(w)) return nullptr;
@@ -58,7 +58,7 @@ WindowHandle dskActivate(WindowHandle window) {
     return before;
 }
 
-WindowHandle dskActiveWindow() { return GetActiveWindow(); }
+WindowHandle dskWindowGetActive() { return GetActiveWindow(); }
 
 intptr_t dskSendMessage(WindowHandle window, uint32_t message, uintptr_t wParam, intptr_t lParam,
                         bool wait) {
@@ -66,8 +66,8 @@ intptr_t dskSendMessage(WindowHandle window, uint32_t message, uintptr_t wParam,
     return PostMessageW(hw(window), message, wParam, lParam);
 }
 
-int32_t dskScreenHeight() { return GetSystemMetrics(SM_CYSCREEN); }
-int32_t dskScreenWidth() { return GetSystemMetrics(SM_CXSCREEN); }
+int32_t dskGetScreenHeight() { return GetSystemMetrics(SM_CYSCREEN); }
+int32_t dskGetScreenWidth() { return GetSystemMetrics(SM_CXSCREEN); }
 
 int32_t dskBeep(int32_t mode) {
     MessageBeep(mode == '!' ? MB_ICONEXCLAMATION : mode == '?' ? MB_ICONQUESTION : MB_ICONINFORMATION);
