@@ -114,7 +114,7 @@ TEST_F(ReportEngine, FilesThatAreNoModuleForThisProcess) {
 
     // A 32-bit DLL in a 64-bit process (the library's own 32-bit build).
     std::string source = MX_SOURCE_DIR;
-    std::wstring x86 = std::wstring(source.begin(), source.end()) + L"\\build\\win32\\morvix32w.dll";
+    std::wstring x86 = std::wstring(source.begin(), source.end()) + L"\\build\\win32\\bin\\morvix32w.dll";
     if (GetFileAttributesW(x86.c_str()) == INVALID_FILE_ATTRIBUTES) GTEST_SKIP() << "no 32-bit build";
     ASSERT_TRUE(CopyFileW(x86.c_str(), (dir + L"\\PRTENG32W.DLL").c_str(), FALSE));
     EXPECT_EQ(run(u"Print(RunReport(\"a\", \"b\", 0));").output, cannotLoad(dir + L"\\PRTENG32W.DLL") + "2\n");
