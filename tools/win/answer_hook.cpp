@@ -54,22 +54,23 @@ bool hasChildOfClass(HWND w, const wchar_t *cls) {
     return s.found;
 }
 
-bool visibleButton(HWND w, int id) {
-    HWND b = GetDlgItem(w, id);
-    return b && IsWindowVisible(b);
-}
+// Shown as far as the control itself goes: a dialog may still be waiting
+// to be shown when its answer is due.
+bool shown(HWND control) { return control && (GetWindowLongW(control, GWL_STYLE) & WS_VISIBLE); }
+
+bool visibleButton(HWND w, int id) { return shown(GetDlgItem(w, id)); }
 
 HWND visibleList(HWND w) {
     for (int id = 1002; id <= 1005; ++id) {
         HWND list = GetDlgItem(w, id);
-        if (list && IsWindowVisible(list)) return list;
+        if (shown(list)) return list;
     }
     return nullptr;
 }
 
 void press(HWND w, int id) {
     HWND button = GetDlgItem(w, id);
-    if (button && IsWindowVisible(button)) SendMessageW(button, BM_CLICK, 0, 0);
+    if (shown(button)) SendMessageW(button, BM_CLICK, 0, 0);
     else SendMessageW(w, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
 }
 
