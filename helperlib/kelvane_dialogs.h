@@ -45,6 +45,8 @@ struct KelvaneFileRequest {
     const char16_t *tlxModule;   // translation module name
     uintptr_t reserved14[3];
 };
+static_assert(sizeof(void *) != 4 || sizeof(KelvaneFileRequest) == 64,
+              "on 32-bit builds the request is sixteen 32-bit words");
 enum : int32_t { kFileOpen = 1, kFileSave = 2 };
 
 // Shows the platform's open or save chooser, starting from the name in

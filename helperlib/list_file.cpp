@@ -2,6 +2,7 @@
 // described in kelvane_lists.h and docs/dialogs.md). No platform windows.
 #include <new>
 
+#include "base/byte_order_mark.h"
 #include "base/utf8.h"
 #include "helperlib/kelvane_lists.h"
 #include "platform/codepage.h"
@@ -12,28 +13,11 @@ namespace mx {
 
 namespace {
 
-bool validUtf8(const std::string &s) {
-    for (size_t i = 0; i < s.size();) {
-        unsigned char b = static_cast<unsigned char>(s[i]);
-        int extra = b < 0x80 ? 0 : (b >> 5) == 6 ? 1 : (b >> 4) == 14 ? 2 : (b >> 3) == 30 ? 3 : -1;
-        if (extra < 0 || i + size_t(extra) >= s.size() + (extra == 0 ? 1 : 0)) return false;
-        for (int k = 1; k <= extra; ++k)
-            if ((static_cast<unsigned char>(s[i + size_t(k)]) & 0xC0) != 0x80) return false;
-        i += size_t(extra) + 1;
-    }
-    return true;
-}
-
 std::u16string decode(const std::string &bytes) {
-    if (bytes.size() >= 2 && uint8_t(bytes[0]) == 0xFF && uint8_t(bytes[1]) == 0xFE) {
-        std::u16string out;
-        out.reserve(bytes.size() / 2);
-        for (size_t i = 2; i + 1 < bytes.size(); i += 2)
-            out += char16_t(uint8_t(bytes[i]) | (uint8_t(bytes[i + 1]) << 8));
-        return out;
-    }
-    if (bytes.size() >= 3 && bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) return fromUtf8(bytes.substr(3));
-    if (validUtf8(bytes)) return fromUtf8(bytes);
+    ByteOrderMark mark = bomDetect(bytes);
+    if (mark == ByteOrderMark::kUtf16le) return fromUtf16le(bytes, bomLength(mark));
+    if (mark == ByteOrderMark::kUtf8) return fromUtf8(bytes.substr(bomLength(mark)));
+    if (utf8Valid(bytes)) return fromUtf8(bytes);
     std::u16string out(bytes.size(), u'\0');
     int32_t n = bytes.empty() ? 0
                               : mxp_CodePageToWide(kCodePageWindows1252, bytes.data(), int32_t(bytes.size()),

@@ -3,6 +3,8 @@
 #pragma once
 #include <windows.h>
 
+#include "platform/win32/wide.h"
+
 extern "C" {
 
 // The input dialog (template 300); lParam of WM_INITDIALOG is an InputDialogRecord.
@@ -23,7 +25,5 @@ Record *dialogRecord(HWND dialog, UINT message, LPARAM lParam) {
     if (message == WM_INITDIALOG) SetWindowLongPtrW(dialog, DWLP_USER, lParam);
     return reinterpret_cast<Record *>(GetWindowLongPtrW(dialog, DWLP_USER));
 }
-
-inline const wchar_t *wide(const char16_t *s) { return reinterpret_cast<const wchar_t *>(s); }
 
 }  // namespace mx

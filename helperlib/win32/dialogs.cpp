@@ -9,12 +9,9 @@
 
 #include "base/u16.h"
 #include "helperlib/kelvane_dialogs.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
-
-namespace {
-const wchar_t *w(const char16_t *s) { return reinterpret_cast<const wchar_t *>(s); }
-}  // namespace
 
 int32_t TLX_TranslateDialogW(WindowHandle dialog, const char16_t *, int32_t) {
     // No translation source is installed: the template texts stay.
@@ -47,7 +44,7 @@ int32_t Kelvane_ExtendedFileNameDialogW(char16_t *buffer, int32_t capacity,
     ofn.nFilterIndex = 1;
     ofn.lpstrFile = name.data();
     ofn.nMaxFile = DWORD(name.size());
-    ofn.lpstrTitle = request->title && *request->title ? w(request->title) : nullptr;
+    ofn.lpstrTitle = request->title && *request->title ? wide(request->title) : nullptr;
     ofn.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
     BOOL chosen = request->mode == kFileSave ? GetSaveFileNameW(&ofn) : GetOpenFileNameW(&ofn);
     if (!chosen) return 0;
@@ -65,7 +62,7 @@ struct FolderStart {
 int CALLBACK folderCallback(HWND dialog, UINT message, LPARAM, LPARAM data) {
     if (message == BFFM_INITIALIZED) {
         const FolderStart *start = reinterpret_cast<const FolderStart *>(data);
-        if (start->title && *start->title) SetWindowTextW(dialog, w(start->title));
+        if (start->title && *start->title) SetWindowTextW(dialog, wide(start->title));
         if (start->path && *start->path)
             SendMessageW(dialog, BFFM_SETSELECTIONW, TRUE, reinterpret_cast<LPARAM>(start->path));
     }
@@ -80,7 +77,7 @@ int32_t Kelvane_DirectoryDialogW(char16_t *buffer, int32_t capacity, const char1
     FolderStart start{buffer, title};
     BROWSEINFOW bi{};
     bi.hwndOwner = GetActiveWindow();
-    bi.lpszTitle = title ? w(title) : L"";
+    bi.lpszTitle = title ? wide(title) : L"";
     bi.ulFlags = BIF_RETURNONLYFSDIRS | ((flags & 1) ? BIF_EDITBOX : 0);
     bi.lpfn = folderCallback;
     bi.lParam = reinterpret_cast<LPARAM>(&start);
