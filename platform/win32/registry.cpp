@@ -54,7 +54,7 @@ bool mxp_RegReadString(RegRoot root, const char16_t *key, const char16_t *name, 
     ok = ok && RegQueryValueExW(h, wideOrEmpty(name), nullptr, &type, reinterpret_cast<BYTE *>(data.data()),
                                 &size) == ERROR_SUCCESS;
     RegCloseKey(h);
-    if (ok) out->assign(reinterpret_cast<const char16_t *>(data.data()));
+    if (ok) out->assign(narrow(data.data()));
     return ok;
 }
 
