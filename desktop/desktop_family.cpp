@@ -81,9 +81,8 @@ int32_t biGetEnvironment(RunContext &, Value **args, int32_t) {
     return dskGetEnvironment(name.get(), argText(args[1]), argCapacity(args[1]));
 }
 
-// Starting a program without further effect beyond its answer 0 would be a
-// trap for macro writers: it starts the program like CreateProcess, shown
-// with the Activation as show mode (0: shown), and still answers 0.
+// Starts the program as CreateProcess does, with Activation as its show mode
+// (0: shown); the answer is always 0, whether it started or not.
 int32_t biExecuteProgram(RunContext &, Value **args, int32_t) {
     DskText line(args[0]);
     int32_t mode = argLong(args[1]);

@@ -82,10 +82,18 @@ std::string dotStuffed(const std::string &text) {
     return out + ".\r\n";
 }
 
+// The server side of the dialogue: replies are read line by line, and bytes
+// received beyond one reply wait for the next.
+struct Smtp {
+    MailSocket *s;
+    std::string pending;
+};
+
 // The code of the server's next reply (its last line decides), 0 when the
 // connection failed.
-int replyCode(MailSocket *s) {
-    std::string pending, line;
+int replyCode(Smtp &c) {
+    MailSocket *s = c.s;
+    std::string &pending = c.pending, line;
     char buf[1024];
     for (;;) {
         size_t end;
@@ -103,13 +111,13 @@ int replyCode(MailSocket *s) {
     }
 }
 
-bool step(MailSocket *s, const std::string &command, int expect) {
-    if (!mailWrite(s, command + "\r\n")) return false;
-    int code = replyCode(s);
+bool step(Smtp &c, const std::string &command, int expect) {
+    if (!mailWrite(c.s, command + "\r\n")) return false;
+    int code = replyCode(c);
     return code == expect || (expect == 250 && code == 251);
 }
 
-int32_t converse(MailSocket *s, const MailMessage &m, const std::vector<std::string> &recipients,
+int32_t converse(Smtp &s, const MailMessage &m, const std::vector<std::string> &recipients,
                  const std::string &data) {
     if (replyCode(s) != 220) return kMailRefused;
     if (!step(s, "EHLO localhost", 250) && !step(s, "HELO localhost", 250)) return kMailRefused;
@@ -117,7 +125,7 @@ int32_t converse(MailSocket *s, const MailMessage &m, const std::vector<std::str
     for (const std::string &r : recipients)
         if (!step(s, "RCPT TO:<" + envelopeAddress(r) + ">", 250)) return kMailRefused;
     if (!step(s, "DATA", 354)) return kMailRefused;
-    if (!mailWrite(s, dotStuffed(data)) || replyCode(s) != 250) return kMailRefused;
+    if (!mailWrite(s.s, dotStuffed(data)) || replyCode(s) != 250) return kMailRefused;
     step(s, "QUIT", 221);
     return kMailSent;
 }
@@ -153,7 +161,8 @@ int32_t Kelvane_SendMailW(const char16_t *sender, const char16_t *receivers, con
     std::string data = mailCompose(m, rfcDate(now), "=_morvix_" + std::to_string(now) + "_part");
     MailSocket *s = mailConnect(server.host, server.port);
     if (!s) return kMailNoConnection;
-    int32_t result = converse(s, m, recipients, data);
+    Smtp smtp{s, {}};
+    int32_t result = converse(smtp, m, recipients, data);
     mailClose(s);
     return result;
 }

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "engine/process_state.h"
-#include "helperlib/kelvane_message.h"
+#include "helperlib/kelvane_dialogs.h"
 #include "helperlib/kelvane_window.h"
 #include "platform/platform.h"
 #include "report/form_dialog.h"
@@ -18,21 +18,6 @@ namespace {
 constexpr int kTemplate = 10005;
 constexpr int kFrame = 1032;
 constexpr int kStatus = 1014;
-
-BOOL CALLBACK translateText(HWND w, LPARAM) {
-    wchar_t text[256];
-    if (GetWindowTextW(w, text, 256) > 0) {
-        TLX_TranslateStringW(gProcess.tlxModuleName, 0, reinterpret_cast<char16_t *>(text), 256);
-        SetWindowTextW(w, text);
-    }
-    return TRUE;
-}
-
-// Lets the translation helper translate the caption and every control text.
-void translateDialog(HWND dialog) {
-    translateText(dialog, 0);
-    EnumChildWindows(dialog, translateText, 0);
-}
 
 void place(HWND dialog, int id, const FormRect &r) {
     if (HWND w = GetDlgItem(dialog, id)) MoveWindow(w, r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
@@ -55,7 +40,7 @@ INT_PTR initDialog(HWND dialog, FormState *s) {
     SetWindowLongPtrW(dialog, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(s));
     s->dialog = dialog;
     s->frame = GetDlgItem(dialog, kFrame);
-    translateDialog(dialog);
+    TLX_TranslateDialogW(dialog, gProcess.tlxModuleName, 0);
     SetWindowTextW(dialog, reinterpret_cast<const wchar_t *>(s->title));
     if (!formOpen(s)) {
         EndDialog(dialog, 2);
@@ -93,14 +78,16 @@ extern "C" INT_PTR CALLBACK Form_Dialog_Callback(HWND dialog, UINT message, WPAR
         layOut(dialog);
         InvalidateRect(dialog, nullptr, TRUE);
         return 1;
-    case WM_COMMAND:
-        if (LOWORD(wParam) == IDOK) {
+    case WM_COMMAND: {
+        int32_t id = GetWmCommandId(wParam, lParam);
+        if (id == IDOK) {
             formSave(s);
             EndDialog(dialog, 1);
-        } else if (LOWORD(wParam) == IDCANCEL) {
+        } else if (id == IDCANCEL) {
             EndDialog(dialog, 2);
         }
         return 1;
+    }
     case WM_DESTROY:
         return 1;
     default:

@@ -1,11 +1,15 @@
 // SendMail end to end against a real SMTP server on a local port (started
 // and stopped by each test), and OpenBrowser with a handler of the test's
-// own in front of PATH.
+// own in front of PATH. Servers that hang up or speak no SMTP are refused.
+#include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
-#include <unistd.h>
+#include <thread>
 
 #include "../mail/smtp_sink.h"
 #include "helperlib/kelvane_mail.h"
@@ -126,4 +130,38 @@ TEST_F(Mail, OpenBrowserHandsTheUrlToTheDesktopHandler) {
     fs::remove(bin + "/xdg-open");
     EXPECT_EQ(mx::Kelvane_RunStandardBrowserW(u"https://example.org", 0), -1);
     setenv("PATH", path.c_str(), 1);
+}
+
+// A listener that answers every connection with a fixed text and hangs up.
+struct RudeServer {
+    int fd = socket(AF_INET, SOCK_STREAM, 0);
+    int port = 0;
+    std::thread thread;
+    explicit RudeServer(std::string greeting) {
+        sockaddr_in a{};
+        a.sin_family = AF_INET;
+        a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        bind(fd, reinterpret_cast<sockaddr *>(&a), sizeof a);
+        listen(fd, 4);
+        socklen_t len = sizeof a;
+        getsockname(fd, reinterpret_cast<sockaddr *>(&a), &len);
+        port = ntohs(a.sin_port);
+        thread = std::thread([this, greeting] {
+            for (int c; (c = accept(fd, nullptr, nullptr)) >= 0; close(c))
+                if (!greeting.empty()) send(c, greeting.data(), greeting.size(), MSG_NOSIGNAL);
+        });
+    }
+    ~RudeServer() {
+        shutdown(fd, SHUT_RDWR);
+        close(fd);
+        thread.join();
+    }
+};
+
+TEST_F(Mail, AServerThatHangsUpRefusesOrIsNoMailServerGivesRefused) {
+    for (const char *greeting : {"", "554 go away\r\n", "HTTP/1.0 400 Bad Request\r\n\r\n", "22"}) {
+        RudeServer server(greeting);
+        useServer(server.port);
+        EXPECT_EQ(mx::Kelvane_SendMailW(u"me@x", u"a@x", u"", u"", u"s", u"t", u"", 0), mx::kMailRefused) << greeting;
+    }
 }

@@ -100,3 +100,30 @@ TEST_F(HostRequests, TheRequestGoesToTheTopLevelWindowOfTheWindowTheHostPassed) 
     EXPECT_EQ(runIn(d.editor, "Print(GetCommandLineCount()); Print(AbbDeleteAllButtons(0));"), "0\n-1\n");
     EXPECT_TRUE(hostRequests().empty());
 }
+
+TEST(TestHostProgram, RunsMacrosInItsFrameAndLogsTheRequests) {
+    std::wstring dir = winScratchDir();
+    winWriteFile(dir + L"\\t.mac", "Macro \"T\" begin char v[20]; Print(AbbAppendButton(100, 24, 24, 48, 0));"
+                                   " Print(GetCommandLineParam(2, v)); Print(v); end");
+    std::wstring out = dir + L"\\out.txt", log = dir + L"\\log.txt";
+    std::wstring line = L"\"" + binDir() + L"\\testhost.exe\" --param one --param two --log \"" + log + L"\" \"" +
+                        dir + L"\\t.mac\"";
+    SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
+    HANDLE file = CreateFileW(out.c_str(), GENERIC_WRITE, 0, &inherit, CREATE_ALWAYS, 0, nullptr);
+    STARTUPINFOW si{};
+    si.cb = sizeof si;
+    si.dwFlags = STARTF_USESTDHANDLES;
+    si.hStdOutput = si.hStdError = file;
+    PROCESS_INFORMATION pi{};
+    ASSERT_TRUE(CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &si, &pi));
+    WaitForSingleObject(pi.hProcess, INFINITE);
+    DWORD code = 9;
+    GetExitCodeProcess(pi.hProcess, &code);
+    CloseHandle(pi.hThread);
+    CloseHandle(pi.hProcess);
+    CloseHandle(file);
+    EXPECT_EQ(code, 0u);
+    EXPECT_EQ(winReadFile(out), "0\n0\ntwo\n");
+    EXPECT_EQ(winReadFile(log), "op 1 record 1 fields 1 24 24 100 48 0 0 param 0 0 text \n"
+                                "op 7 record 1 fields 0 0 0 0 0 0 0 param 2 20 text \n");
+}

@@ -8,6 +8,9 @@
 // when every run answered 0, else 1.
 #include <windows.h>
 
+#include <fcntl.h>
+#include <io.h>
+
 #include <cstdio>
 #include <string>
 
@@ -29,6 +32,8 @@ int wmain(int argc, wchar_t **argv) {
         else if (a == L"--stay" && more) stay = DWORD(_wtol(argv[++i]));
         else macros.push_back(a);
     }
+    _setmode(_fileno(stdout), _O_BINARY);  // output as the native host writes it
+    _setmode(_fileno(stderr), _O_BINARY);
     const TestDesktop &d = testDesktop();
     hostReset(reply, params);
     unattendedStart();
