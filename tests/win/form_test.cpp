@@ -60,11 +60,11 @@ void CALLBACK inspect(HWND dialog, UINT, UINT_PTR id, DWORD) {
     PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(press, BN_CLICKED), 0);
 }
 
-// Takes the form dialog (the window holding frame 1032) away from the box
+// Takes the form dialog (the window holding frame 1032 and field 1014) away from the box
 // watcher and inspects it once it runs; other windows go on to the watcher.
 LRESULT CALLBACK watchForm(int code, WPARAM wParam, LPARAM lParam) {
     HWND w = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_ACTIVATE && GetDlgItem(w, 1032)) {
+    if (code == HCBT_ACTIVATE && GetDlgItem(w, 1032) && GetDlgItem(w, 1014)) {
         SetTimer(w, 1, 1, inspect);
         return 0;
     }
@@ -83,7 +83,11 @@ protected:
         press = IDOK;
         dir_ = winScratchDir();
     }
-    void TearDown() override { SetDllDirectoryW(nullptr); }
+    void TearDown() override {
+        SetDllDirectoryW(nullptr);
+        UnhookWindowsHookEx(hook);
+        hook = nullptr;
+    }
     static void useForm(const std::wstring &variant) { SetDllDirectoryW(standinDir(L"form", variant).c_str()); }
 
     // FormDialog(form, DEST, title, height, width, mode, 0) with DEST a file
