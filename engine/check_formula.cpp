@@ -3,6 +3,7 @@
 #include "engine/call.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
+#include "engine/function_numbers.h"
 #include "engine/operand.h"
 #include "engine/operators.h"
 #include "platform/platform.h"
@@ -70,21 +71,41 @@ int32_t checkArgumentCount(RunContext &ctx, const FunctionRow *row, int32_t coun
     }
 }
 
+// The value of an argument written as a constant: 1 to 9 digits or 'c'.
+// -1 for anything else.
+int32_t constantArgument(const char16_t *begin, const char16_t *end) {
+    if (end - begin == 3 && begin[0] == u'\'' && begin[2] == u'\'') return begin[1];
+    if (end - begin < 1 || end - begin > 9) return -1;
+    int32_t n = 0;
+    for (const char16_t *c = begin; c < end; ++c) {
+        if (*c < u'0' || *c > u'9') return -1;
+        n = n * 10 + (*c - u'0');
+    }
+    return n;
+}
+
 // name(arguments): as the call reads them, each argument checked as a formula.
+// A new escape character set with a constant takes effect for the text read
+// after it, as it does when the macro runs straight through.
 bool checkCall(RunContext &ctx, const CheckNames &names, const FunctionRow *row, char16_t *&p) {
     if (*p != u'(') return errSet(ctx, kErrCharExpected, u"("), false;
     int32_t count = 0;
+    char16_t *first = p + 1, *firstEnd = p + 1;
     ++p;
     while (*p != u')') {
         if (count == kMaxArguments) return errSet(ctx, kErrTooManyParams, row->name), false;
         char16_t *end = evScanArgument(p);
         if (!checkRange(ctx, names, p, end)) return false;
-        ++count;
+        if (count++ == 0) firstEnd = end;
         p = end;
         if (*p == u',') ++p;
     }
     ++p;
-    return checkArgumentCount(ctx, row, count) == 0;
+    if (checkArgumentCount(ctx, row, count) < 0) return false;
+    int32_t escape = constantArgument(first, firstEnd);
+    if ((row->identifier & kFunctionNumberMask) == fnum::SetStringEscape && escape >= 0)
+        ctx.escape = char16_t(escape);
+    return true;
 }
 
 // [index] after a variable.

@@ -8,7 +8,7 @@
 
 #include "base/utf8.h"
 #include "engine/check.h"
-#include "host_common.h"
+#include "tools/host_common.h"
 #include "macro_harness.h"
 
 namespace {
