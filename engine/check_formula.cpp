@@ -172,14 +172,14 @@ bool check(RunContext &ctx, const CheckNames &names, char16_t *formula) {
         }
         if (*p == u'(') {
             if (!expectOperand) return errSet(ctx, kErrUnexpectedChar, u"("), false;
-            if (!st.pushOp(ctx, opBracket())) return false;
+            if (!st.pushOp(ctx, oprBracket())) return false;
             ++depth, ++p;
         } else if (*p == u')') {
             if (!st.reduce(ctx, 1)) return false;
             expectOperand = false;
             --depth, ++p;
         } else if (!expectOperand) {
-            const OperatorRow *row = opMatch(p, 2);
+            const OperatorRow *row = oprMatch(p, 2);
             if (!row) return errSet(ctx, kErrBadOperator, p), false;
             if (st.nOps && row->precedence <= st.ops[st.nOps - 1]->precedence &&
                 !st.reduce(ctx, row->precedence))
@@ -187,7 +187,7 @@ bool check(RunContext &ctx, const CheckNames &names, char16_t *formula) {
             if (!st.pushOp(ctx, row)) return false;
             p += row->length;
             expectOperand = true;
-        } else if (const OperatorRow *unary = opMatch(p, 1)) {
+        } else if (const OperatorRow *unary = oprMatch(p, 1)) {
             if (!st.pushOp(ctx, unary)) return false;
             p += unary->length;
         } else {
