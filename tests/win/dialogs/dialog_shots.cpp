@@ -28,8 +28,14 @@ int pngEncoder(CLSID *clsid) {
 }
 
 // Shows and paints the dialog, then copies it from the screen into a PNG.
-void shoot(HWND w, mx::DialogKind) {
+void shoot(HWND w, mx::DialogKind kind) {
     if (nextName.empty()) return;
+    // A multiple-selection list shows two chosen entries in its picture.
+    HWND multi = GetDlgItem(w, 1005);
+    if (kind == mx::DialogKind::kListBox && multi && (GetWindowLongW(multi, GWL_STYLE) & WS_VISIBLE)) {
+        SendMessageW(multi, LB_SETSEL, TRUE, 1);
+        SendMessageW(multi, LB_SETSEL, TRUE, 3);
+    }
     ShowWindow(w, SW_SHOW);
     SetWindowPos(w, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     RedrawWindow(w, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);

@@ -476,3 +476,21 @@ TEST(WinDialogs, FileAndFolderChoosers) {
     EXPECT_EQ(kinds, (std::vector<DialogKind>{DialogKind::kFile, DialogKind::kFile, DialogKind::kDirectory,
                                               DialogKind::kDirectory}));
 }
+
+TEST(WinDialogs, HugeAndNegativePlacesAndSizesStillGiveAnAnswer) {
+    std::wstring list = writeList(L"few.lst", "eins\n");
+    std::vector<RECT> rects;
+    EXPECT_EQ(run("text 5\nselect 1\nok\n",
+                  L"SetDialogPosition(2147483647, -2147483647); SetDialogSize(2147483647, -5);"
+                  L"n = 1; Print(IntDialog(\"T\", \"P\", n)); Print(n);"
+                  L"Print(ListBoxDialog(\"T\", \"" + lit(list) + L"\", -2147483647, 2147483647, 100000, 100000, 2147483647, 0, a, b));"
+                  L"Print(a);"
+                  L"Print(ListBoxDialog(\"T\", \"" + lit(list) + L"\", 5, 5, -300, 200, -1, MULTI, a, b));",
+                  [&](HWND w, DialogKind) { rects.push_back(windowRect(w)); }),
+              "1\n5\n1\neins\n-3\nresult: 0\n");
+    ASSERT_EQ(rects.size(), 3u);
+    // as far to the right as the platform lets a window go (it keeps window
+    // coordinates within 16 bits)
+    EXPECT_GE(rects[0].left, 32767);
+    EXPECT_EQ(rects[2].left, 5) << "a negative width keeps the template's size at the given place";
+}
