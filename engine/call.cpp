@@ -154,6 +154,10 @@ Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p) 
         return nullptr;
     }
     int32_t result = invoke(ctx, row, host, args, count);
+    if (ctx.errorCode == kErrNoMemory) {
+        valReleaseArray(args, count);
+        return nullptr;
+    }
     trFunctionCall(ctx, row->name, args, count, result);
     valReleaseArray(args, count);
     if (ctx.abortCallback && ctx.abortCallback() != 0) {

@@ -1,5 +1,8 @@
 #include "engine/dispatcher.h"
 
+#include <new>
+
+#include "engine/errors.h"
 #include "engine/function_numbers.h"
 
 namespace mx {
@@ -37,7 +40,14 @@ void dispatchInstall(const DispatchFamily *const *families, int32_t count) {
 
 int32_t dispatchCall(RunContext &ctx, int32_t number, Value **args, int32_t count) {
     BuiltinHandler *s = slot(number);
-    return s && *s ? (*s)(ctx, args, count) : 0;
+    if (!s || !*s) return 0;
+    // An exception must never unwind into the host's frames.
+    try {
+        return (*s)(ctx, args, count);
+    } catch (const std::bad_alloc &) {
+        errSet(ctx, kErrNoMemory);
+        return 0;
+    }
 }
 
 bool dispatchImplemented(int32_t number) {

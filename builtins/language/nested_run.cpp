@@ -26,14 +26,16 @@ int32_t lgCall(RunContext &ctx, const char16_t *command) {
     return result;
 }
 
-void lgBuildCommand(const char16_t *const parts[6], char16_t *buf, int32_t capacity) {
-    u16Copy(buf, capacity, u"");
+std::u16string lgBuildCommand(const std::u16string parts[6]) {
+    std::u16string command;
     for (int32_t i = 0; i < 6; ++i) {
-        if (i) u16Append(buf, capacity, u" ");
-        u16Append(buf, capacity, u"\"");
-        u16Append(buf, capacity, parts[i]);
-        u16Append(buf, capacity, u"\"");
+        if (i) command += u' ';
+        command += u'"';
+        command += parts[i];
+        command += u'"';
     }
+    if (command.size() > size_t(kCallWithParamsCapacity - 1)) command.resize(kCallWithParamsCapacity - 1);
+    return command;
 }
 
 int32_t lgGetMacroParameter(const RunContext &ctx, int32_t n, char16_t *text, int32_t capacity) {
