@@ -10,6 +10,15 @@
 
 namespace mx {
 
+namespace {
+// A nested run costs the host's stack far more than a block: about 1.9 KB
+// per level of a macro calling itself (measured on 64-bit Windows), where the
+// other nesting levels cost a few hundred bytes. Counting a nested run as
+// this many levels keeps the deepest legal recursion (about 180 levels) within
+// a third of a 1 MB stack, so the nesting error comes long before it ends.
+constexpr int32_t kNestedRunDepth = 8;
+}  // namespace
+
 int32_t lgCall(RunContext &ctx, const char16_t *command) {
     // The nested run inherits host data, title, decimal separator and dialog
     // settings; the run driver starts its locals, files, trace and text afresh.
@@ -17,6 +26,7 @@ int32_t lgCall(RunContext &ctx, const char16_t *command) {
     if (!nested) return -1;
     nested->macroCommand = command;
     nested->macroText = nullptr;
+    nested->depth += kNestedRunDepth - 1;  // evEnter adds the last one
     int32_t result = 0;
     if (!evEnter(*nested) || runDriver(*nested) != 0) {
         errShowMacroError(*nested);

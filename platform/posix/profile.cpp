@@ -137,6 +137,9 @@ int32_t mxp_ProfileRead(const char16_t *file, const char16_t *section, const cha
 int32_t mxp_ProfileWrite(const char16_t *file, const char16_t *section, const char16_t *key,
                          const char16_t *value) {
     if (!file || !*file || !section) return 0;
+    // Refused rather than written in a form that reads back differently
+    // (a line feed in a value would even add entries of its own).
+    if (key && value && !ProfileText::canHold(section, key, value)) return 0;
     std::u16string path = resolve(file, value != nullptr && key != nullptr);
     ProfileFile p;
     if (!load(path, &p)) return 0;
