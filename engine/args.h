@@ -1,29 +1,44 @@
 // Reading bound arguments the way the signature descriptors hand them to an
 // implementation: texts as their storage and capacity, scalars as plain
-// values, by-reference scalars as pointers into the variable.
+// values, by-reference scalars as pointers into the variable. In the native
+// test build each read is checked against the handler's entry signature
+// (engine/arg_reads.h).
 //
 // Text arguments (C[] and *C[]) are the caller's character vectors. A vector
 // whose every element is filled holds no terminator, so a handler never reads
-// one as a zero-terminated string: it reads it with argTextLength,
-// argString or argTextZ below, which all stop at the vector's capacity.
+// one as a zero-terminated string: it reads it with argTextLength, argString
+// or ArgTextZ below, which all stop at the vector's capacity.
 #pragma once
 #include <cstdint>
 #include <string>
 
+#include "engine/arg_reads.h"
 #include "engine/types.h"
 #include "engine/value.h"
 
 namespace mx {
 
+// Checks a read of v when the build checks reads; nothing otherwise.
+inline void argRead(const Value *v, ArgRead what) {
+    if constexpr (kCheckArgReads) argReadCheck(v, what);
+}
+
 // C[] and *C[]: the characters of the argument's own storage (for writing
 // into it within argCapacity; for reading use the bounded readers below).
-inline char16_t *argText(Value *v) { return static_cast<char16_t *>(v->data); }
+inline char16_t *argText(Value *v) {
+    argRead(v, ArgRead::kText);
+    return static_cast<char16_t *>(v->data);
+}
 // Their capacity in UTF-16 units, terminator included.
-inline int32_t argCapacity(const Value *v) { return v->count; }
+inline int32_t argCapacity(const Value *v) {
+    argRead(v, ArgRead::kText);
+    return v->count;
+}
 
 // Length of a text argument in units: up to its first zero unit, never more
 // than its capacity (0 for an absent or empty vector).
 inline int32_t argTextLength(const Value *v) {
+    argRead(v, ArgRead::kText);
     const char16_t *s = static_cast<const char16_t *>(v->data);
     int32_t n = 0;
     if (s)
@@ -36,12 +51,13 @@ inline int32_t argTextLength(const Value *v) {
 // into the run's out-of-memory error.
 inline std::u16string argString(const Value *v) {
     const char16_t *s = static_cast<const char16_t *>(v->data);
-    return std::u16string(s ? s : u"", size_t(argTextLength(v)));
+    int32_t n = argTextLength(v);
+    return std::u16string(s ? s : u"", size_t(n));
 }
 
 // A terminated view of a text argument without copying when the vector is
 // terminated within its capacity (the usual case); otherwise a bounded copy.
-// Valid while the argument and this object live.
+// Valid while the argument and this object live. May throw std::bad_alloc.
 class ArgTextZ {
 public:
     explicit ArgTextZ(const Value *v) {
@@ -64,11 +80,26 @@ private:
 };
 
 // L, C and D (already converted by the binding).
-inline int32_t argLong(const Value *v) { return valToLong(v); }
-inline char16_t argChar(const Value *v) { return valToChar(v); }
-inline double argDouble(const Value *v) { return valToDouble(v); }
+inline int32_t argLong(const Value *v) {
+    argRead(v, ArgRead::kLong);
+    return valToLong(v);
+}
+inline char16_t argChar(const Value *v) {
+    argRead(v, ArgRead::kChar);
+    return valToChar(v);
+}
+inline double argDouble(const Value *v) {
+    argRead(v, ArgRead::kDouble);
+    return valToDouble(v);
+}
 // *L and *D: the variable's storage.
-inline int32_t *argLongRef(Value *v) { return static_cast<int32_t *>(v->data); }
-inline double *argDoubleRef(Value *v) { return static_cast<double *>(v->data); }
+inline int32_t *argLongRef(Value *v) {
+    argRead(v, ArgRead::kLongRef);
+    return static_cast<int32_t *>(v->data);
+}
+inline double *argDoubleRef(Value *v) {
+    argRead(v, ArgRead::kDoubleRef);
+    return static_cast<double *>(v->data);
+}
 
 }  // namespace mx

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "engine/arg_reads.h"
 #include "engine/errors.h"
 #include "engine/function_numbers.h"
 
@@ -15,11 +16,11 @@ constexpr int32_t kHighestNumber = fnum::XMLWriteFile;
 
 // Plain arrays, zero before the first install whatever the order of static
 // initialisation.
-BuiltinHandler gByNumber[kHighestNumber + 1];
-BuiltinHandler gListDialog;
-BuiltinHandler gListDialogAnsi;
+const DispatchEntry *gByNumber[kHighestNumber + 1];
+const DispatchEntry *gListDialog;
+const DispatchEntry *gListDialogAnsi;
 
-BuiltinHandler *slot(int32_t number) {
+const DispatchEntry **slot(int32_t number) {
     if (number == fnum::ListDialog) return &gListDialog;
     if (number == fnum::ListDialogAnsi) return &gListDialogAnsi;
     if (number >= 1 && number <= kHighestNumber) return &gByNumber[number];
@@ -29,30 +30,36 @@ BuiltinHandler *slot(int32_t number) {
 }  // namespace
 
 void dispatchInstall(const DispatchFamily *const *families, int32_t count) {
-    for (BuiltinHandler &h : gByNumber) h = nullptr;
+    for (const DispatchEntry *&e : gByNumber) e = nullptr;
     gListDialog = gListDialogAnsi = nullptr;
     for (int32_t f = 0; f < count; ++f)
         for (int32_t i = 0; i < families[f]->count; ++i) {
             const DispatchEntry &e = families[f]->entries[i];
-            if (BuiltinHandler *s = slot(e.number)) *s = e.handler;
+            if (const DispatchEntry **s = slot(e.number)) *s = &e;
         }
 }
 
 int32_t dispatchCall(RunContext &ctx, int32_t number, Value **args, int32_t count) {
-    BuiltinHandler *s = slot(number);
-    if (!s || !*s) return 0;
+    const DispatchEntry *e = dispatchEntry(number);
+    if (!e) return 0;
     // An exception must never unwind into the host's frames.
     try {
-        return (*s)(ctx, args, count);
+        if constexpr (kCheckArgReads) {
+            ArgReadScope scope(number, e->reads, args, count);
+            return e->handler(ctx, args, count);
+        }
+        return e->handler(ctx, args, count);
     } catch (const std::bad_alloc &) {
         errSet(ctx, kErrNoMemory);
         return 0;
     }
 }
 
-bool dispatchImplemented(int32_t number) {
-    BuiltinHandler *s = slot(number);
-    return s && *s;
+const DispatchEntry *dispatchEntry(int32_t number) {
+    const DispatchEntry **s = slot(number);
+    return s ? *s : nullptr;
 }
+
+bool dispatchImplemented(int32_t number) { return dispatchEntry(number) != nullptr; }
 
 }  // namespace mx

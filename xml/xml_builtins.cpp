@@ -13,23 +13,23 @@ namespace mx {
 namespace {
 
 int32_t biXMLCreate(RunContext &, Value **args, int32_t) {
-    return xml::XMLCreate(ArgTextZ(args[0]).get(), ArgTextZ(args[1]).get());
+    return xml::xmlCreate(ArgTextZ(args[0]).get(), ArgTextZ(args[1]).get());
 }
 
-int32_t biXMLDelete(RunContext &, Value **args, int32_t) { return xml::XMLDelete(argLong(args[0])); }
+int32_t biXMLDelete(RunContext &, Value **args, int32_t) { return xml::xmlDelete(argLong(args[0])); }
 
-int32_t biXMLGetRoot(RunContext &, Value **args, int32_t) { return xml::XMLGetRoot(argLong(args[0])); }
+int32_t biXMLGetRoot(RunContext &, Value **args, int32_t) { return xml::xmlGetRoot(argLong(args[0])); }
 
 int32_t biXMLAddChild(RunContext &, Value **args, int32_t) {
-    return xml::XMLAddChild(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
+    return xml::xmlAddChild(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
 }
 
 int32_t biXMLSetAttr(RunContext &, Value **args, int32_t) {
-    return xml::XMLSetAttr(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
+    return xml::xmlSetAttr(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
 }
 
 int32_t biXMLWriteFile(RunContext &, Value **args, int32_t) {
-    return xml::XMLWriteFile(argLong(args[0]), ArgTextZ(args[1]).get(), argLong(args[2]));
+    return xml::xmlWriteFile(argLong(args[0]), ArgTextZ(args[1]).get(), argLong(args[2]));
 }
 
 const DispatchEntry kEntries[] = {

@@ -3,7 +3,6 @@
 #include "engine/args.h"
 #include "engine/function_numbers.h"
 #include "builtins/families.h"
-#include "builtins/files/file_args.h"
 #include "builtins/files/file_lists.h"
 #include "builtins/files/file_ops.h"
 #include "builtins/files/modules.h"
