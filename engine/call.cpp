@@ -95,7 +95,8 @@ int32_t invoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args,
     int32_t number = int32_t(row->identifier & kFunctionNumberMask);
     if (!host) return dispatchCall(ctx, number, args, count);
     // Without a host callback a host function answers 0.
-    return ctx.hostCallback ? ctx.hostCallback(number, args, count, ctx.callbackValue) : 0;
+    if (!ctx.hostCallback) return 0;
+    return ctx.hostCallback(number, reinterpret_cast<::MX_VALUE **>(args), count, ctx.callbackValue);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "engine/errors.h"
 #include "engine/reader.h"
 #include "base/u16.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -63,7 +64,7 @@ char16_t *fmCollect(RunContext &ctx, const char16_t *start) {
         buf[n++] = char16_t(c);
     }
     buf[n] = 0;
-    auto *copy = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(n + 1)));
+    auto *copy = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(n + 1)));
     if (!copy) {
         errSet(ctx, kErrNoMemory);
         return nullptr;

@@ -7,6 +7,7 @@
 #include "base/u16.h"
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -79,7 +80,7 @@ struct Normaliser {
 };
 
 bool allocate(RunContext &ctx, int32_t capacity) {
-    ctx.text = static_cast<char16_t *>(std::calloc(size_t(capacity), sizeof(char16_t)));
+    ctx.text = static_cast<char16_t *>(heapCalloc(size_t(capacity), sizeof(char16_t)));
     if (!ctx.text) {
         errSet(ctx, kErrNoMemory);
         return false;

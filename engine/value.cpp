@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "engine/errors.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -30,7 +31,7 @@ bool hasInlineElement(const Value *v) {
 
 Value *valCreate(RunContext &ctx, int32_t type, int32_t kind, int32_t count) {
     bool scalar = kind == kOwning && count == 0;
-    Value *v = static_cast<Value *>(std::calloc(1, scalar ? sizeof(Scalar) : sizeof(Value)));
+    Value *v = static_cast<Value *>(heapCalloc(1, scalar ? sizeof(Scalar) : sizeof(Value)));
     if (!v) {
         errSet(ctx, kErrNoMemory);
         return nullptr;
@@ -42,7 +43,7 @@ Value *valCreate(RunContext &ctx, int32_t type, int32_t kind, int32_t count) {
         v->data = reinterpret_cast<Scalar *>(v)->element;
     } else if (kind == kOwning) {
         size_t n = count > 1 ? size_t(count) : 1;
-        v->data = std::calloc(n, size_t(valElementSize(type) ? valElementSize(type) : 1));
+        v->data = heapCalloc(n, size_t(valElementSize(type) ? valElementSize(type) : 1));
         if (!v->data) {
             std::free(v);
             errSet(ctx, kErrNoMemory);

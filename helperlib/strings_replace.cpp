@@ -4,6 +4,7 @@
 #include "helperlib/kelvane_strings.h"
 #include "platform/casemap.h"
 #include "platform/platform.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -18,7 +19,7 @@ struct Pattern {
 
     bool make(const char16_t *text, bool literal) {
         int32_t n = u16Len(text);
-        s = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(n + 1)));
+        s = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(n + 1)));
         if (!s) return false;
         for (int32_t i = 0; i < n; ++i) {
             char16_t c = text[i];
@@ -58,7 +59,7 @@ int32_t Kelvane_ReplaceStringW(char16_t *text, int32_t capacity, const char16_t 
     if (f.len == 0) return 0;
     int32_t len = 0;
     while (len < capacity && text[len]) ++len;
-    auto *out = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(capacity)));
+    auto *out = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(capacity)));
     if (!out) return -1;
     int32_t n = 0, count = 0;
     bool cut = false;

@@ -1,6 +1,7 @@
 // The core's Value and function row must be the public MX_VALUE and
 // MX_FUNCTION_ROW bit for bit: hosts read them through the public header.
 #include <cstddef>
+#include <type_traits>
 
 #include "engine/types.h"
 #include "morvix.h"
@@ -35,4 +36,12 @@ static_assert(offsetof(MX_FUNCTION_ROW, name) == 0 && offsetof(MX_FUNCTION_ROW, 
               offsetof(MX_FUNCTION_ROW, signature) == 8 &&
               offsetof(MX_FUNCTION_ROW, paramNames) == 12);
 static_assert(sizeof(LONG_PTR) == 4 && sizeof(LONG) == 4);
+#endif
+
+#ifndef _WIN32
+// The callbacks are called through the host's own function types: calling a
+// function through another type is undefined behaviour, whatever the layout.
+// (On Windows LONG is long and the types differ in name only.)
+static_assert(std::is_same_v<mx::HostCallback, MX_HOST_CALLBACK>);
+static_assert(std::is_same_v<mx::AbortCallback, MX_ABORT_CALLBACK>);
 #endif

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <new>
 
 #include "base/byte_order_mark.h"
 #include "base/utf8.h"
@@ -100,7 +101,11 @@ MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, O
         close(fd);
         return *why = OpenError::kAccessDenied, nullptr;
     }
-    auto *f = new MxpFile;
+    auto *f = new (std::nothrow) MxpFile;
+    if (!f) {
+        close(fd);
+        return *why = OpenError::kOther, nullptr;
+    }
     f->io.fd = fd;
     f->mode = m;
     f->writing = m.write && !m.read;

@@ -76,11 +76,15 @@ bool load(const std::u16string &path, ProfileFile *out) {
     OpenError why = OpenError::kNone;
     MxpFile *f = mxp_FileOpen(path.c_str(), u"rb", Share::kDenyWrite, &why);
     if (!f) return why == OpenError::kNotFound && mxp_PathKind(path.c_str()) == PathKind::kMissing;
+    // Closed however the reading ends, also when the text outgrows memory.
+    struct Closer {
+        MxpFile *f;
+        ~Closer() { mxp_FileClose(f); }
+    } closer{f};
     std::string bytes;
     char chunk[4096];
     int64_t n;
     while ((n = mxp_FileReadBytes(f, chunk, sizeof chunk)) > 0) bytes.append(chunk, size_t(n));
-    mxp_FileClose(f);
     if (n < 0) return false;
     out->text = ProfileText::parse(decode(bytes, &out->form));
     return true;
