@@ -18,7 +18,7 @@ int32_t mdGetProgPath(ModuleHandle host, char16_t *buf, int32_t capacity) {
     return 1;
 }
 
-int32_t mdGetWindowsPath(char16_t *buf, int32_t capacity) {
+int32_t mdGetUserPath(char16_t *buf, int32_t capacity) {
     mxp_WindowsDirectory(buf, capacity);
     return 0;
 }
