@@ -62,7 +62,7 @@ class ArgTextZ {
 public:
     explicit ArgTextZ(const Value *v) {
         const char16_t *s = static_cast<const char16_t *>(v->data);
-        int32_t n = argTextLength(v);
+        int32_t n = length_ = argTextLength(v);
         if (s && n < v->count) {
             text_ = s;
         } else if (s) {
@@ -73,9 +73,12 @@ public:
     ArgTextZ(const ArgTextZ &) = delete;
     ArgTextZ &operator=(const ArgTextZ &) = delete;
     const char16_t *get() const { return text_; }
+    // Its length in units (argTextLength).
+    int32_t length() const { return length_; }
 
 private:
     const char16_t *text_ = u"";
+    int32_t length_ = 0;
     std::u16string copy_;
 };
 
