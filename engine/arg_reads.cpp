@@ -72,7 +72,8 @@ void argReadCheck(const Value *v, ArgRead what) {
     else
         fault += "argument " + std::to_string(index + 1);
     fault += std::string(" as ") + readName(what);
-    if (index < s->count) fault += ", its entry says " + (d.empty() ? std::string("nothing") : toUtf8(d.c_str()));
+    if (index < s->count)
+        fault += ", its entry says " + (d.empty() ? std::string("nothing") : toUtf8(d.c_str()));
     tFaults += fault + "\n";
 }
 

@@ -21,7 +21,8 @@ HKEY hive(RegRoot root) {
 // Opens key with access; absent when the root selects no hive or it fails.
 HKEY openKey(RegRoot root, const char16_t *key, REGSAM access) {
     HKEY h = nullptr;
-    if (!hive(root) || RegOpenKeyExW(hive(root), wideOrEmpty(key), 0, access, &h) != ERROR_SUCCESS) return nullptr;
+    if (!hive(root) || RegOpenKeyExW(hive(root), wideOrEmpty(key), 0, access, &h) != ERROR_SUCCESS)
+        return nullptr;
     return h;
 }
 
@@ -37,7 +38,8 @@ bool setValue(RegRoot root, const char16_t *key, const char16_t *name, DWORD typ
               DWORD size) {
     HKEY h = createKey(root, key);
     if (!h) return false;
-    bool ok = RegSetValueExW(h, wideOrEmpty(name), 0, type, static_cast<const BYTE *>(data), size) == ERROR_SUCCESS;
+    bool ok =
+        RegSetValueExW(h, wideOrEmpty(name), 0, type, static_cast<const BYTE *>(data), size) == ERROR_SUCCESS;
     RegCloseKey(h);
     return ok;
 }
