@@ -73,10 +73,11 @@ int32_t Kelvane_ReplaceStringW(char16_t *text, int32_t capacity, const char16_t 
     if (f.len == 0) return 0;
     int32_t len = 0;
     while (len < capacity && text[len]) ++len;
-    auto *out = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(capacity)));
-    if (!out) return -1;
+    // Before the output block: the marks may run out of memory (thrown).
     std::vector<bool> starts;
     markMatches(text, len, f, mode, starts);
+    auto *out = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(capacity)));
+    if (!out) return -1;
     int32_t n = 0, count = 0;
     bool cut = false;
     auto put = [&](char16_t c) {
