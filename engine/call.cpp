@@ -131,7 +131,8 @@ int32_t invoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args,
     int32_t number = int32_t(row->identifier & kFunctionNumberMask);
     if (!host) return dispatchCall(ctx, number, args, count);
     // Without a host callback a host function answers 0.
-    return ctx.hostCallback ? ctx.hostCallback(number, args, count, ctx.callbackValue) : 0;
+    if (!ctx.hostCallback) return 0;
+    return ctx.hostCallback(number, reinterpret_cast<::MX_VALUE **>(args), count, ctx.callbackValue);
 }
 
 }  // namespace
@@ -193,6 +194,10 @@ Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p) 
         return nullptr;
     }
     int32_t result = invoke(ctx, row, host, args, count);
+    if (ctx.errorCode == kErrNoMemory) {
+        valReleaseArray(args, count);
+        return nullptr;
+    }
     trFunctionCall(ctx, row->name, args, count, result);
     valReleaseArray(args, count);
     if (ctx.abortCallback && ctx.abortCallback() != 0) {

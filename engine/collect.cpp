@@ -6,6 +6,7 @@
 #include "engine/errors.h"
 #include "engine/reader.h"
 #include "base/u16.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -72,7 +73,7 @@ char16_t *fmCollect(RunContext &ctx, const char16_t *start) {
     char16_t buf[kFormulaCapacity];
     int32_t n = collectInto(ctx, start, buf);
     if (n < 0) return nullptr;
-    auto *copy = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(n + 1)));
+    auto *copy = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(n + 1)));
     if (!copy) {
         errSet(ctx, kErrNoMemory);
         return nullptr;
@@ -92,7 +93,7 @@ int32_t gSpareBufferCount = 0;
 
 char16_t *fmCollectInBuffer(RunContext &ctx, const char16_t *start) {
     char16_t *buf = gSpareBufferCount ? gSpareBuffers[--gSpareBufferCount]
-                                      : static_cast<char16_t *>(std::malloc(sizeof(char16_t) * kFormulaCapacity));
+                                      : static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * kFormulaCapacity));
     if (!buf) {
         errSet(ctx, kErrNoMemory);
         return nullptr;

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "engine/errors.h"
+#include "base/heap.h"
 #include "engine/value_spare.h"
 
 namespace mx {
@@ -57,7 +58,7 @@ int32_t gSpareCount = 0;
 // A zero-filled record, reused or new; absent when memory is missing.
 Value *takeRecord() {
     Spare *s = gSpare;
-    if (!s) return static_cast<Value *>(std::calloc(1, sizeof(Scalar)));
+    if (!s) return static_cast<Value *>(heapCalloc(1, sizeof(Scalar)));
     gSpare = s->next;
     --gSpareCount;
     std::memset(static_cast<void *>(s), 0, sizeof(Scalar));
@@ -89,7 +90,7 @@ Value *valCreate(RunContext &ctx, int32_t type, int32_t kind, int32_t count) {
         v->data = reinterpret_cast<Scalar *>(v)->element;
     } else if (kind == kOwning) {
         size_t n = count > 1 ? size_t(count) : 1;
-        v->data = std::calloc(n, size_t(valElementSize(type) ? valElementSize(type) : 1));
+        v->data = heapCalloc(n, size_t(valElementSize(type) ? valElementSize(type) : 1));
         if (!v->data) {
             giveRecord(v);
             errSet(ctx, kErrNoMemory);
