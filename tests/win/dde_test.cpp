@@ -8,6 +8,7 @@
 
 #include <string>
 #include <deque>
+#include <vector>
 
 #include "win_harness.h"
 
@@ -306,6 +307,43 @@ TEST_F(DdeTest, OversizedNamesAndCommands) {
     s.stop(5000);
     EXPECT_EQ(s.received(), "initiate MxDdeTest MxTopic\nexecute 100000 " + std::string(40, 'c') +
                                 "\nrequest MxItem format=1\nterminate\n");
+}
+
+}  // namespace
+
+namespace {
+
+// The bytes of the UTF-16 units that a Print line (UTF-8) shows: a server
+// that sends 8-bit text fills each unit with two of its characters.
+std::string unitBytes(const std::string &utf8) {
+    std::wstring units(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), int(utf8.size()), nullptr, 0), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), int(utf8.size()), units.data(), int(units.size()));
+    std::string bytes;
+    for (wchar_t u : units) {
+        bytes += char(u & 0xFF);
+        bytes += char(u >> 8);
+    }
+    return bytes;
+}
+
+// Wine's shell answers DDE on "Progman" once the session has a desktop. It
+// knows commands in brackets, refuses others, and lists its groups as 8-bit
+// text; the library copies every text value as UTF-16 units.
+TEST_F(DdeTest, ConversationWithTheShell) {
+    std::string got = run("char groups[2000];"
+                          "ch = DDEInitiate(\"Progman\", \"Progman\", 0, 0, 0); Print(ch != 0);"
+                          "Print(DDEExecute(ch, \"[CreateGroup(Morvix Test)]\", 10000));"
+                          "Print(DDEExecute(ch, \"[NoSuchCommand(1)]\", 10000));"
+                          "Print(DDERequest(ch, \"Groups\", 1, groups, 10000)); Print(groups);"
+                          "Print(DDEExecute(ch, \"[DeleteGroup(Morvix Test)]\", 10000));"
+                          "Print(DDETerminate(ch));");
+    std::vector<std::string> lines;
+    for (size_t at = 0, eol; (eol = got.find('\n', at)) != std::string::npos; at = eol + 1)
+        lines.push_back(got.substr(at, eol - at));
+    ASSERT_EQ(lines.size(), 7u) << got;
+    EXPECT_EQ(lines[0] + lines[1] + lines[2] + lines[3], "10-10") << got;
+    EXPECT_NE(unitBytes(lines[4]).find("Morvix Test\r\n"), std::string::npos) << got;
+    EXPECT_EQ(lines[5] + lines[6], "00") << got;  // the group is removed again
 }
 
 }  // namespace
