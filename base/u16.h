@@ -42,6 +42,18 @@ inline int32_t u16Append(char16_t *dst, int32_t capacity, const char16_t *src) {
     return len + u16Copy(dst + len, capacity - len, src);
 }
 
+// White space for every text rule of the library: the codes 1 to 32.
+inline bool u16IsWhite(char16_t c) { return c >= 1 && c <= 32; }
+
+// True when the first n units of s (n < 0: up to the terminator) are all
+// white; an absent or empty text counts as white. A terminator within the n
+// units ends the text.
+inline bool u16IsWhiteText(const char16_t *s, int32_t n = -1) {
+    for (int32_t i = 0; s && (n < 0 || i < n) && s[i]; ++i)
+        if (!u16IsWhite(s[i])) return false;
+    return true;
+}
+
 // The value of a hexadecimal digit (either case), -1 for anything else.
 inline int u16HexDigit(char16_t c) {
     if (c >= u'0' && c <= u'9') return c - u'0';

@@ -1,5 +1,6 @@
 #include "engine/dispatcher.h"
 
+#include "engine/arg_reads.h"
 #include "engine/function_numbers.h"
 
 namespace mx {
@@ -12,11 +13,11 @@ constexpr int32_t kHighestNumber = fnum::XMLWriteFile;
 
 // Plain arrays, zero before the first install whatever the order of static
 // initialisation.
-BuiltinHandler gByNumber[kHighestNumber + 1];
-BuiltinHandler gListDialog;
-BuiltinHandler gListDialogAnsi;
+const DispatchEntry *gByNumber[kHighestNumber + 1];
+const DispatchEntry *gListDialog;
+const DispatchEntry *gListDialogAnsi;
 
-BuiltinHandler *slot(int32_t number) {
+const DispatchEntry **slot(int32_t number) {
     if (number == fnum::ListDialog) return &gListDialog;
     if (number == fnum::ListDialogAnsi) return &gListDialogAnsi;
     if (number >= 1 && number <= kHighestNumber) return &gByNumber[number];
@@ -26,23 +27,30 @@ BuiltinHandler *slot(int32_t number) {
 }  // namespace
 
 void dispatchInstall(const DispatchFamily *const *families, int32_t count) {
-    for (BuiltinHandler &h : gByNumber) h = nullptr;
+    for (const DispatchEntry *&e : gByNumber) e = nullptr;
     gListDialog = gListDialogAnsi = nullptr;
     for (int32_t f = 0; f < count; ++f)
         for (int32_t i = 0; i < families[f]->count; ++i) {
             const DispatchEntry &e = families[f]->entries[i];
-            if (BuiltinHandler *s = slot(e.number)) *s = e.handler;
+            if (const DispatchEntry **s = slot(e.number)) *s = &e;
         }
 }
 
 int32_t dispatchCall(RunContext &ctx, int32_t number, Value **args, int32_t count) {
-    BuiltinHandler *s = slot(number);
-    return s && *s ? (*s)(ctx, args, count) : 0;
+    const DispatchEntry *e = dispatchEntry(number);
+    if (!e) return 0;
+    if constexpr (kCheckArgReads) {
+        ArgReadScope scope(number, e->reads, args, count);
+        return e->handler(ctx, args, count);
+    }
+    return e->handler(ctx, args, count);
 }
 
-bool dispatchImplemented(int32_t number) {
-    BuiltinHandler *s = slot(number);
-    return s && *s;
+const DispatchEntry *dispatchEntry(int32_t number) {
+    const DispatchEntry **s = slot(number);
+    return s ? *s : nullptr;
 }
+
+bool dispatchImplemented(int32_t number) { return dispatchEntry(number) != nullptr; }
 
 }  // namespace mx

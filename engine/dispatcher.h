@@ -38,6 +38,9 @@ void dispatchInstall(const DispatchFamily *const *families, int32_t count);
 // implementation's result, 0 for a number without one.
 int32_t dispatchCall(RunContext &ctx, int32_t number, Value **args, int32_t count);
 
+// The installed entry of number; absent when no family implements it.
+const DispatchEntry *dispatchEntry(int32_t number);
+
 // True when an installed family implements number.
 bool dispatchImplemented(int32_t number);
 

@@ -49,7 +49,7 @@ bool reduce(RunContext &ctx, Stacks &st, int32_t minimum) {
         }
         Value *right = row->arity == 2 ? st.popOperand() : nullptr;
         Value *left = st.popOperand();
-        Value *result = opApply(ctx, row, left, right);
+        Value *result = oprApply(ctx, row, left, right);
         if (!result || !st.pushOperand(ctx, result)) return false;
     }
     return true;
@@ -76,14 +76,14 @@ Value *evaluate(RunContext &ctx, char16_t *formula) {
                 errSet(ctx, kErrUnexpectedChar, u"(");
                 return nullptr;
             }
-            if (!st.pushOp(ctx, opBracket())) return nullptr;
+            if (!st.pushOp(ctx, oprBracket())) return nullptr;
             ++depth, ++p;
         } else if (*p == u')') {
             if (!reduce(ctx, st, 1)) return nullptr;
             expectOperand = false;
             --depth, ++p;
         } else if (!expectOperand) {
-            const OperatorRow *row = opMatch(p, 2);
+            const OperatorRow *row = oprMatch(p, 2);
             if (!row) {
                 errSet(ctx, kErrBadOperator, p);
                 return nullptr;
@@ -94,7 +94,7 @@ Value *evaluate(RunContext &ctx, char16_t *formula) {
             if (!st.pushOp(ctx, row)) return nullptr;
             p += row->length;
             expectOperand = true;
-        } else if (const OperatorRow *unary = opMatch(p, 1)) {
+        } else if (const OperatorRow *unary = oprMatch(p, 1)) {
             if (!st.pushOp(ctx, unary)) return nullptr;
             p += unary->length;
         } else {

@@ -117,7 +117,7 @@ Value *assign(RunContext &ctx, Value *left, Value *right) {
 
 }  // namespace
 
-const OperatorRow *opMatch(const char16_t *text, int32_t arity) {
+const OperatorRow *oprMatch(const char16_t *text, int32_t arity) {
     for (const OperatorRow &row : kOperators) {
         if (row.arity != arity) continue;
         if (text[0] == row.symbol[0] && (row.length == 1 || text[1] == row.symbol[1])) return &row;
@@ -125,9 +125,9 @@ const OperatorRow *opMatch(const char16_t *text, int32_t arity) {
     return nullptr;
 }
 
-const OperatorRow *opBracket() { return &kBracketRow; }
+const OperatorRow *oprBracket() { return &kBracketRow; }
 
-Value *opApply(RunContext &ctx, const OperatorRow *row, Value *left, Value *right) {
+Value *oprApply(RunContext &ctx, const OperatorRow *row, Value *left, Value *right) {
     if (row->number == kOpAssign) return assign(ctx, left, right);
     if (left->count != 0 || (right && right->count != 0))
         return fail(ctx, kErrVectorNotAllowed, left, right);

@@ -25,13 +25,13 @@ struct OperatorRow {
 
 // The row whose symbol is a prefix of text among the rows of the given arity
 // (1 or 2), tried in table order; absent when none matches.
-const OperatorRow *opMatch(const char16_t *text, int32_t arity);
+const OperatorRow *oprMatch(const char16_t *text, int32_t arity);
 
 // The bracket marker row.
-const OperatorRow *opBracket();
+const OperatorRow *oprBracket();
 
 // Applies row to left (and right for binary rows). Consumes both operands.
 // Returns a new owning Value, or absent with the error set.
-Value *opApply(RunContext &ctx, const OperatorRow *row, Value *left, Value *right);
+Value *oprApply(RunContext &ctx, const OperatorRow *row, Value *left, Value *right);
 
 }  // namespace mx

@@ -10,6 +10,7 @@
 // The year must be read; a day or month the format lacks counts as 1. The
 // result must be a valid date of the years 1 to 9999 with a valid time.
 #include "helperlib/kelvane_date.h"
+#include "base/u16.h"
 #include "platform/casemap.h"
 
 namespace mx {
@@ -19,8 +20,6 @@ namespace {
 struct Fields {
     int32_t day = 1, month = 1, year = -1, hour = 0, minute = 0, second = 0;
 };
-
-bool isWhite(char16_t c) { return c >= 1 && c <= 32; }
 
 // Reads 1 to maxDigits digits at *p; -1 when there is none.
 int32_t readDigits(const char16_t *s, int32_t *p, int32_t maxDigits, int32_t *count) {
@@ -87,7 +86,7 @@ int32_t FormattedDate_To_DateTimeStructW(const char16_t *text, const char16_t *f
     if (!format || !format[0]) format = kDefaultDateFormat;
     Fields f;
     int32_t p = 0;
-    while (isWhite(text[p])) ++p;
+    while (u16IsWhite(text[p])) ++p;
     for (const char16_t *fmt = format; *fmt;) {
         KdtDirective d = kdtDirectiveAt(fmt);
         if (d.field == KdtField::kNone) {
@@ -98,7 +97,7 @@ int32_t FormattedDate_To_DateTimeStructW(const char16_t *text, const char16_t *f
         if (!readItem(text, &p, d, f)) return -1;
         fmt += d.field == KdtField::kPercent ? 2 : 3;
     }
-    while (isWhite(text[p])) ++p;
+    while (u16IsWhite(text[p])) ++p;
     if (text[p]) return -1;
     if (Kelvane_SetDateTimeStruct(rec, f.day, f.month, f.year, f.hour, f.minute, f.second) != 0) {
         *rec = KelvaneDateTime{};

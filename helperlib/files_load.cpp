@@ -1,6 +1,7 @@
 // Helper library: a whole file into a text buffer.
 #include <string>
 
+#include "base/byte_order_mark.h"
 #include "base/utf8.h"
 #include "helperlib/kelvane_files.h"
 #include "platform/files.h"
@@ -22,13 +23,10 @@ bool readBytes(const char16_t *file, size_t limit, std::string *out) {
 }
 
 std::u16string decode(const std::string &bytes) {
-    if (bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) return fromUtf8(bytes.substr(3));
+    ByteOrderMark mark = bomDetect(bytes);
+    if (mark == ByteOrderMark::kUtf8) return fromUtf8(bytes.substr(bomLength(mark)));
+    if (mark == ByteOrderMark::kUtf16le) return fromUtf16le(bytes, bomLength(mark));
     std::u16string out;
-    if (bytes.size() >= 2 && bytes[0] == '\xFF' && bytes[1] == '\xFE') {
-        for (size_t i = 2; i + 1 < bytes.size(); i += 2)
-            out += char16_t(uint8_t(bytes[i]) | (uint8_t(bytes[i + 1]) << 8));
-        return out;
-    }
     for (char b : bytes) out += char16_t(uint8_t(b));
     return out;
 }

@@ -13,3 +13,13 @@ namespace mx {
 int32_t Kelvane_CenterWindow(WindowHandle window);
 
 }  // namespace mx
+
+namespace mx {
+
+// Asks the MDI client window for its active child (WM_MDIGETACTIVE).
+// *maximized (when given) = 1 when that child is maximized, else 0. Returns
+// the child, absent when there is none or client is no window. Natively:
+// absent.
+WindowHandle SendWmMdiGetActive(WindowHandle client, int32_t *maximized);
+
+}  // namespace mx

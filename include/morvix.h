@@ -137,6 +137,57 @@ LONG MX_EXPORT Morvix_GetTlxModuleName(WCHAR *buffer, LONG capacity);
  * all-zero row. */
 const MX_FUNCTION_ROW *MX_EXPORT Get_MacroLib_InternalFunctionList(void);
 
+/*
+ * The host's button bar and command line. Macros reach them through one
+ * window message that the library registers under MX_HOST_MESSAGE_NAME and
+ * sends, synchronously, to the host's top-level window: wParam is one of the
+ * operations below, lParam the address of a request record (or 0) that is
+ * valid only during the call: copy what you keep. Answer MX_HOST_DONE when
+ * the request was carried out; any other answer reads as a failure.
+ */
+#define MX_HOST_MESSAGE_NAME "KELVANE-MORVIX-MSG"
+#define MX_HOST_DONE 4711
+
+#define MX_HOST_APPEND_BUTTON 1      /* lParam: MX_BUTTON_REQUEST (mode 1) */
+#define MX_HOST_DELETE_BUTTON 2      /* lParam: MX_BUTTON_REQUEST (command) */
+#define MX_HOST_DELETE_ALL_BUTTONS 3 /* lParam: 0 */
+#define MX_HOST_SET_BUTTON 4         /* lParam: MX_BUTTON_REQUEST (command, kind, text) */
+#define MX_HOST_COUNT_PARAMS 6       /* lParam: 0; answer the count itself */
+#define MX_HOST_GET_PARAM 7          /* lParam: MX_COMMANDLINE_REQUEST */
+
+/* Property kinds of MX_HOST_SET_BUTTON. */
+#define MX_BUTTON_BITMAP_FILE 1
+#define MX_BUTTON_MACRO_FILE 2
+#define MX_BUTTON_SIGNUM 3
+#define MX_BUTTON_ACTION 4
+#define MX_BUTTON_POPUP_TEXT 7
+
+/* State flags of an appended button. */
+#define MX_BUTTSTAT_NEWLINE 16  /* the button starts a new line of the bar */
+#define MX_BUTTSTAT_NEWGROUP 32 /* the button starts a new group */
+
+/* A button request; fields an operation does not use are zero. 32 bytes on
+ * 32-bit Windows (eight 32-bit fields); on 64-bit the text pointer sits at
+ * offset 24 and reserved at 32. */
+typedef struct MX_BUTTON_REQUEST {
+    LONG mode;          /* 1 for an append */
+    LONG height;
+    LONG width;
+    LONG command;       /* the button's command number */
+    LONG state;         /* MX_BUTTSTAT_* */
+    LONG kind;          /* MX_BUTTON_* of MX_HOST_SET_BUTTON */
+    const WCHAR *text;  /* the property's text, terminated */
+    LONG reserved;
+} MX_BUTTON_REQUEST;
+
+/* A command-line parameter request: write parameter number into buffer, at
+ * most capacity characters including the terminating zero. */
+typedef struct MX_COMMANDLINE_REQUEST {
+    LONG number;
+    LONG capacity;
+    WCHAR *buffer;
+} MX_COMMANDLINE_REQUEST;
+
 #ifdef __cplusplus
 }
 #endif

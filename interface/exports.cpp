@@ -22,8 +22,8 @@ mx::AbortCallback core(MX_ABORT_CALLBACK cb) { return reinterpret_cast<mx::Abort
 
 LONG run(const mx::RunRequest &request) {
     mx::RunContext ctx;
-    mx::runInit(ctx, request);
-    return mx::runEntry(ctx);
+    mx::entryInit(ctx, request);
+    return mx::entryRun(ctx);
 }
 
 #ifndef _WIN32

@@ -2,6 +2,7 @@
 // MX_FUNCTION_ROW bit for bit: hosts read them through the public header.
 #include <cstddef>
 
+#include "desktop/host_requests.h"
 #include "engine/types.h"
 #include "morvix.h"
 
@@ -35,4 +36,35 @@ static_assert(offsetof(MX_FUNCTION_ROW, name) == 0 && offsetof(MX_FUNCTION_ROW, 
               offsetof(MX_FUNCTION_ROW, signature) == 8 &&
               offsetof(MX_FUNCTION_ROW, paramNames) == 12);
 static_assert(sizeof(LONG_PTR) == 4 && sizeof(LONG) == 4);
+#endif
+
+// The host requests of the button bar and the command line are read by the
+// host through the public header.
+
+MX_SAME_FIELD(mx::ButtonRequest, MX_BUTTON_REQUEST, mode);
+MX_SAME_FIELD(mx::ButtonRequest, MX_BUTTON_REQUEST, height);
+MX_SAME_FIELD(mx::ButtonRequest, MX_BUTTON_REQUEST, width);
+MX_SAME_FIELD(mx::ButtonRequest, MX_BUTTON_REQUEST, command);
+MX_SAME_FIELD(mx::ButtonRequest, MX_BUTTON_REQUEST, state);
+MX_SAME_FIELD(mx::ButtonRequest, MX_BUTTON_REQUEST, kind);
+MX_SAME_FIELD(mx::ButtonRequest, MX_BUTTON_REQUEST, text);
+MX_SAME_FIELD(mx::ButtonRequest, MX_BUTTON_REQUEST, reserved);
+static_assert(sizeof(mx::ButtonRequest) == sizeof(MX_BUTTON_REQUEST));
+MX_SAME_FIELD(mx::CommandLineRequest, MX_COMMANDLINE_REQUEST, number);
+MX_SAME_FIELD(mx::CommandLineRequest, MX_COMMANDLINE_REQUEST, capacity);
+MX_SAME_FIELD(mx::CommandLineRequest, MX_COMMANDLINE_REQUEST, buffer);
+static_assert(sizeof(mx::CommandLineRequest) == sizeof(MX_COMMANDLINE_REQUEST));
+
+#if defined(_WIN32) && !defined(_WIN64)
+// 32-bit: eight 32-bit fields, and three.
+static_assert(sizeof(MX_BUTTON_REQUEST) == 32 && offsetof(MX_BUTTON_REQUEST, command) == 12 &&
+              offsetof(MX_BUTTON_REQUEST, kind) == 20 && offsetof(MX_BUTTON_REQUEST, text) == 24 &&
+              offsetof(MX_BUTTON_REQUEST, reserved) == 28);
+static_assert(sizeof(MX_COMMANDLINE_REQUEST) == 12 && offsetof(MX_COMMANDLINE_REQUEST, buffer) == 8);
+#elif defined(_WIN64)
+// 64-bit: six 32-bit fields, the text pointer at 24, reserved at 32.
+static_assert(offsetof(MX_BUTTON_REQUEST, kind) == 20 && offsetof(MX_BUTTON_REQUEST, text) == 24 &&
+              offsetof(MX_BUTTON_REQUEST, reserved) == 32 && sizeof(MX_BUTTON_REQUEST) == 40);
+static_assert(offsetof(MX_COMMANDLINE_REQUEST, capacity) == 4 &&
+              offsetof(MX_COMMANDLINE_REQUEST, buffer) == 8 && sizeof(MX_COMMANDLINE_REQUEST) == 16);
 #endif

@@ -11,7 +11,7 @@ namespace {
 constexpr int32_t kCountryGermany = 49;
 }  // namespace
 
-void runInit(RunContext &ctx, const RunRequest &r) {
+void entryInit(RunContext &ctx, const RunRequest &r) {
     ctx = RunContext{};
     ctx.hostInstance = r.hostInstance;
     ctx.hostWindow = mxp_TopLevelWindow(r.window);
@@ -28,7 +28,7 @@ void runInit(RunContext &ctx, const RunRequest &r) {
     ctx.decimalSeparator = r.countryCode == kCountryGermany ? u',' : u'.';
 }
 
-int32_t runEntry(RunContext &ctx) {
+int32_t entryRun(RunContext &ctx) {
     if (runDriver(ctx) == 0) return 0;
     if (ctx.errorCode == kErrAborted) return -2;
     errShowMacroError(ctx);

@@ -22,10 +22,10 @@ struct RunRequest {
 };
 
 // Fills a fresh context for a run entry point.
-void runInit(RunContext &ctx, const RunRequest &request);
+void entryInit(RunContext &ctx, const RunRequest &request);
 
 // A run entry point's whole work: the driver, then the error box unless the
 // run was aborted. Returns 0, -1 (error shown) or -2 (aborted).
-int32_t runEntry(RunContext &ctx);
+int32_t entryRun(RunContext &ctx);
 
 }  // namespace mx

@@ -6,14 +6,9 @@
 #pragma once
 #include <cstdint>
 
-namespace mx {
+#include "base/codepage.h"
 
-enum : uint32_t {
-    kCodePageIso8859_15 = 28605,
-    kCodePageIso8859_1 = 28591,
-    kCodePageWindows1252 = 1252,
-    kCodePageUtf8 = 65001,
-};
+namespace mx {
 
 // Converts n > 0 units of text to the code page. A character the code page
 // cannot hold becomes its best-fit character where the platform has one,

@@ -32,15 +32,16 @@ const MX_FUNCTION_ROW kHostTable[] = {
 };
 
 const char *hostUsage() {
-    return "usage: HOST [--country N] [--title T] [--abort-after N] [--unattended] FILE [PARAM...]\n"
-           "       HOST [--country N] [--title T] [--abort-after N] [--unattended] -e TEXT\n";
+    return "usage: HOST [--country N] [--title T] [--abort-after N] [--unattended] [--answers F] FILE [PARAM...]\n"
+           "       HOST [--country N] [--title T] [--abort-after N] [--unattended] [--answers F] -e TEXT\n";
 }
 
 bool hostParseArgs(const std::vector<std::u16string> &args, HostOptions &o, std::string &error) {
     size_t i = 0;
     for (; i < args.size(); ++i) {
         const std::u16string &a = args[i];
-        bool takesValue = a == u"--country" || a == u"--title" || a == u"--abort-after" || a == u"-e";
+        bool takesValue = a == u"--country" || a == u"--title" || a == u"--abort-after" || a == u"-e" ||
+                         a == u"--answers";
         if (takesValue && i + 1 >= args.size()) {
             error = "option " + mx::toUtf8(a.c_str()) + " needs a value";
             return false;
@@ -52,6 +53,9 @@ bool hostParseArgs(const std::vector<std::u16string> &args, HostOptions &o, std:
             o.title = args[++i];
         } else if (a == u"--abort-after") {
             if (!toLong(args[++i], &o.abortAfter)) return error = "--abort-after needs a number", false;
+        } else if (a == u"--answers") {
+            o.answers = args[++i];
+            if (o.answers.empty()) return error = "--answers needs a file", false;
         } else if (a == u"--unattended") {
             o.unattended = true;
         } else if (a == u"-e") {

@@ -13,6 +13,7 @@ struct HostOptions {
     std::u16string title;
     long abortAfter = -1;  // the abort callback answers 1 from this call on
     bool unattended = false;
+    std::u16string answers;  // --answers FILE: the answer script, empty for none
     bool memory = false;   // -e TEXT
     std::u16string text;   // the memory macro
     std::u16string file;

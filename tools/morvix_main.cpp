@@ -1,7 +1,9 @@
 // morvix: runs a macro on Linux. Boxes the library shows go to standard error.
 #include <cstdio>
 
+#include "answers.h"
 #include "base/utf8.h"
+#include "dialogs/dialog_answers.h"
 #include "host_common.h"
 
 int main(int argc, char **argv) {
@@ -12,6 +14,13 @@ int main(int argc, char **argv) {
     if (!hostParseArgs(args, o, error)) {
         std::fprintf(stderr, "morvix: %s\n%s", error.c_str(), hostUsage());
         return 64;
+    }
+    if (!o.answers.empty()) {
+        if (!answersLoad(o.answers, error)) {
+            std::fprintf(stderr, "morvix: %s\n", error.c_str());
+            return 66;
+        }
+        mx::dialogsSetAnswerSource(answersNext);
     }
     hostSetAbortAfter(o.abortAfter);
     MX_ABORT_CALLBACK abort = o.abortAfter >= 0 ? hostAbort : nullptr;

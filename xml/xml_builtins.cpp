@@ -31,26 +31,26 @@ const char16_t *textArg(Value *v, std::u16string &holder) {
 
 int32_t biXMLCreate(RunContext &, Value **args, int32_t) {
     std::u16string a, b;
-    return xml::XMLCreate(textArg(args[0], a), textArg(args[1], b));
+    return xml::xmlCreate(textArg(args[0], a), textArg(args[1], b));
 }
 
-int32_t biXMLDelete(RunContext &, Value **args, int32_t) { return xml::XMLDelete(argLong(args[0])); }
+int32_t biXMLDelete(RunContext &, Value **args, int32_t) { return xml::xmlDelete(argLong(args[0])); }
 
-int32_t biXMLGetRoot(RunContext &, Value **args, int32_t) { return xml::XMLGetRoot(argLong(args[0])); }
+int32_t biXMLGetRoot(RunContext &, Value **args, int32_t) { return xml::xmlGetRoot(argLong(args[0])); }
 
 int32_t biXMLAddChild(RunContext &, Value **args, int32_t) {
     std::u16string a, b;
-    return xml::XMLAddChild(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
+    return xml::xmlAddChild(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
 }
 
 int32_t biXMLSetAttr(RunContext &, Value **args, int32_t) {
     std::u16string a, b;
-    return xml::XMLSetAttr(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
+    return xml::xmlSetAttr(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
 }
 
 int32_t biXMLWriteFile(RunContext &, Value **args, int32_t) {
     std::u16string a;
-    return xml::XMLWriteFile(argLong(args[0]), textArg(args[1], a), argLong(args[2]));
+    return xml::xmlWriteFile(argLong(args[0]), textArg(args[1], a), argLong(args[2]));
 }
 
 const DispatchEntry kEntries[] = {

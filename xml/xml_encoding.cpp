@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "base/u16.h"
 #include "platform/codepage.h"
 #include "xml/xml_alloc.h"
 
@@ -50,7 +51,7 @@ constexpr int32_t kLocalBytes = 1000;
 }  // namespace
 
 XmlEncoding EncodingFromName(const char16_t *name) {
-    if (IsBlank(name)) return XMLENC_ISO8859_15;
+    if (u16IsWhiteText(name)) return XMLENC_ISO8859_15;
     if (sameIgnoringCase(name, "ISO-8859-15")) return XMLENC_ISO8859_15;
     if (sameIgnoringCase(name, "ISO-8859-1")) return XMLENC_ISO8859_1;
     if (sameIgnoringCase(name, "ISO-8859", 8)) return XMLENC_ISO8859_15;

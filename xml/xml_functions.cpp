@@ -15,7 +15,7 @@ void showEngineError(int32_t code, const char16_t *text = nullptr) {
 }
 }  // namespace
 
-int32_t XMLCreate(const char16_t *rootNode, const char16_t *code) {
+int32_t xmlCreate(const char16_t *rootNode, const char16_t *code) {
     XmlDocument *document = CreateDocument();
     if (!document) {
         errShowSystemError(kErrSysNoMemory);
@@ -36,12 +36,12 @@ int32_t XMLCreate(const char16_t *rootNode, const char16_t *code) {
     return handle;
 }
 
-int32_t XMLDelete(int32_t xmlctl) {
+int32_t xmlDelete(int32_t xmlctl) {
     if (xmlctl) DestroyDocument(xmlHandleRemoveDocument(xmlctl));
     return 1;
 }
 
-int32_t XMLGetRoot(int32_t xmlctl) {
+int32_t xmlGetRoot(int32_t xmlctl) {
     XmlDocument *document = xmlHandleDocument(xmlctl);
     if (!document) return 0;
     int32_t root = xmlHandleRoot(xmlctl);
@@ -49,7 +49,7 @@ int32_t XMLGetRoot(int32_t xmlctl) {
     return root;
 }
 
-int32_t XMLAddChild(int32_t node, const char16_t *name, const char16_t *content) {
+int32_t xmlAddChild(int32_t node, const char16_t *name, const char16_t *content) {
     if (!node) return 0;
     int32_t document;
     XmlNode *parent = xmlHandleNode(node, &document);
@@ -63,7 +63,7 @@ int32_t XMLAddChild(int32_t node, const char16_t *name, const char16_t *content)
     return handle;
 }
 
-int32_t XMLSetAttr(int32_t node, const char16_t *name, const char16_t *value) {
+int32_t xmlSetAttr(int32_t node, const char16_t *name, const char16_t *value) {
     if (!node) return 2;
     XmlNode *target = xmlHandleNode(node);
     if (!target) return 2;
@@ -73,7 +73,7 @@ int32_t XMLSetAttr(int32_t node, const char16_t *name, const char16_t *value) {
     return 2;
 }
 
-int32_t XMLWriteFile(int32_t xmlctl, const char16_t *filename, int32_t flags) {
+int32_t xmlWriteFile(int32_t xmlctl, const char16_t *filename, int32_t flags) {
     XmlDocument *document = xmlHandleDocument(xmlctl);
     if (!document) return 2;
     int32_t code = WriteDocument(document, filename, flags);

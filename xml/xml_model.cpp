@@ -160,11 +160,4 @@ int32_t SetAttribute(XmlNode *node, const char16_t *name, const char16_t *value)
     return storeCopy(&a->value, value ? value : u"");
 }
 
-bool IsBlank(const char16_t *text) {
-    if (!text) return true;
-    for (; *text; ++text)
-        if (*text > 32) return false;
-    return true;
-}
-
 }  // namespace mx::xml

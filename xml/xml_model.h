@@ -76,7 +76,4 @@ int32_t AddAttribute(XmlNode *node, XmlAttribute **attribute);
 // one is appended. Answers the code of storing the value.
 int32_t SetAttribute(XmlNode *node, const char16_t *name, const char16_t *value);
 
-// True for an absent text and for one made only of codes 1 to 32.
-bool IsBlank(const char16_t *text);
-
 }  // namespace mx::xml

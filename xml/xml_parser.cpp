@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "base/byte_order_mark.h"
 #include "base/u16.h"
 #include "platform/files.h"
 #include "xml/xml_alloc.h"
@@ -15,7 +16,7 @@ namespace {
 
 using Byte = unsigned char;
 
-bool isWhite(char c) { return Byte(c) >= 0x01 && Byte(c) <= 0x20; }
+bool isWhite(char c) { return u16IsWhite(char16_t(Byte(c))); }
 bool isNameStart(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_'; }
 bool isNameChar(char c) { return isNameStart(c) || (c >= '0' && c <= '9') || c == '-'; }
 bool isValueByte(char c) { return c == '&' || (c != 0 && IsPlainByte(Byte(c))); }
@@ -163,7 +164,7 @@ int32_t readDeclaration(XmlDocument *document, const char **p) {
 
 int32_t readDocument(XmlDocument *document, const char **p) {
     ClearNode(document->root);
-    if (startsWith(*p, "\xEF\xBB\xBF")) *p += 3;
+    if (bomDetect(*p, strnlen(*p, 3)) == ByteOrderMark::kUtf8) *p += bomLength(ByteOrderMark::kUtf8);
     skipWhite(p);
     int32_t code = readDeclaration(document, p);
     if (code == XMLERR_OK) code = ParseElement(document, document->root, p);

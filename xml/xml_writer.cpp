@@ -3,6 +3,7 @@
 #include <climits>
 #include <cstring>
 
+#include "base/u16.h"
 #include "xml/xml_alloc.h"
 #include "xml/xml_encoding.h"
 #include "xml/xml_escape.h"
@@ -78,7 +79,7 @@ bool isVoidElement(const char16_t *name) {
 void putAttributes(const XmlDocument *document, MxpFile *file, const XmlNode *node) {
     for (const XmlAttribute *a = node->firstAttribute; a; a = a->next) {
         putText(file, " ");
-        if (IsBlank(a->name)) continue;
+        if (u16IsWhiteText(a->name)) continue;
         if (putConverted(document, file, "", a->name, "=\"") != XMLERR_OK) continue;
         putValue(document, file, a->value);
         putText(file, "\"");
@@ -91,8 +92,8 @@ void putAttributes(const XmlDocument *document, MxpFile *file, const XmlNode *no
 int32_t openElement(const XmlDocument *document, MxpFile *file, const XmlNode *node, int32_t level,
                     int32_t flags, bool *descend) {
     *descend = false;
-    if (IsBlank(node->name)) return XMLERR_OK;
-    if ((flags & XMLWF_COMMENTS) && !IsBlank(node->comment)) {
+    if (u16IsWhiteText(node->name)) return XMLERR_OK;
+    if ((flags & XMLWF_COMMENTS) && !u16IsWhiteText(node->comment)) {
         putText(file, "\r\n");
         indent(document, file, level, flags);
         int32_t code = putConverted(document, file, "<!--", node->comment, "-->\r\n");
@@ -104,7 +105,7 @@ int32_t openElement(const XmlDocument *document, MxpFile *file, const XmlNode *n
     putAttributes(document, file, node);
     bool html = flags & XMLWF_HTML;
     if (node->childCount == 0) {
-        if (IsBlank(node->text) && !html) {
+        if (u16IsWhiteText(node->text) && !html) {
             putText(file, "/>\r\n");
             return XMLERR_OK;
         }
@@ -117,7 +118,7 @@ int32_t openElement(const XmlDocument *document, MxpFile *file, const XmlNode *n
         return putConverted(document, file, "</", node->name, ">\r\n");
     }
     putText(file, ">\r\n");
-    if (!IsBlank(node->text)) {
+    if (!u16IsWhiteText(node->text)) {
         indent(document, file, level + 1, flags);
         putValue(document, file, node->text);
         putText(file, "\r\n");

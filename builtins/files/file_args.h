@@ -15,11 +15,4 @@ inline std::u16string faText(Value *v) {
     return std::u16string(p ? p : u"", size_t(n));
 }
 
-// Absent, or every character from 1 to 32 (the white-text rule).
-inline bool faIsWhite(const char16_t *s) {
-    for (; s && *s; ++s)
-        if (*s > 32) return false;
-    return true;
-}
-
 }  // namespace mx

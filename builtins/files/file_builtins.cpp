@@ -132,7 +132,7 @@ int32_t biDeleteRegistryKey(RunContext &, A a, int32_t) {
 
 // ---- modules and directories -------------------------------------------------------
 
-// 59 GetAppName, 80 GetProgPath, 60 GetWindowsPath, 141 GetCurrentPath *C[]
+// 59 GetAppName, 80 GetProgPath, 60 GetUserPath (GetWindowsPath), 141 GetCurrentPath *C[]
 int32_t biGetAppName(RunContext &ctx, A a, int32_t) {
     return mdGetAppName(ctx.hostInstance, argText(a[0]), argCapacity(a[0]));
 }
@@ -140,7 +140,7 @@ int32_t biGetProgPath(RunContext &ctx, A a, int32_t) {
     return mdGetProgPath(ctx.hostInstance, argText(a[0]), argCapacity(a[0]));
 }
 int32_t biGetUserPath(RunContext &, A a, int32_t) {
-    return mdGetWindowsPath(argText(a[0]), argCapacity(a[0]));
+    return mdGetUserPath(argText(a[0]), argCapacity(a[0]));
 }
 int32_t biGetCurrentPath(RunContext &, A a, int32_t) {
     return mdGetCurrentPath(argText(a[0]), argCapacity(a[0]));

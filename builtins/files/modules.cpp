@@ -1,6 +1,5 @@
 #include "builtins/files/modules.h"
 
-#include "builtins/files/file_args.h"
 #include "base/path_surgery.h"
 #include "builtins/files/version_format.h"
 #include "base/u16.h"
@@ -19,7 +18,7 @@ int32_t mdGetProgPath(ModuleHandle host, char16_t *buf, int32_t capacity) {
     return 1;
 }
 
-int32_t mdGetWindowsPath(char16_t *buf, int32_t capacity) {
+int32_t mdGetUserPath(char16_t *buf, int32_t capacity) {
     mxp_WindowsDirectory(buf, capacity);
     return 0;
 }
@@ -34,7 +33,7 @@ int32_t mdGetModuleVersion(const char16_t *module, char16_t *buf, int32_t capaci
     u16Copy(buf, capacity, u"");
     uint16_t version[4];
     if (!mxp_FileVersion(module, version)) return 2;
-    vfFormat(buf, capacity, faIsWhite(format) ? u"%d.%d.%d.%d" : format, version);
+    vfFormat(buf, capacity, u16IsWhiteText(format) ? u"%d.%d.%d.%d" : format, version);
     return 1;
 }
 

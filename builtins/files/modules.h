@@ -11,7 +11,7 @@ int32_t mdGetAppName(ModuleHandle host, char16_t *buf, int32_t capacity);
 // buf = the directory of the host's module (StripFilename's rule). Returns 1.
 int32_t mdGetProgPath(ModuleHandle host, char16_t *buf, int32_t capacity);
 // buf = the Windows directory (on Linux its stand-in), cut to capacity. Returns 0.
-int32_t mdGetWindowsPath(char16_t *buf, int32_t capacity);
+int32_t mdGetUserPath(char16_t *buf, int32_t capacity);
 // buf = the current directory. Returns its length, the size needed when the
 // capacity is too small (buf unchanged), 0 on failure.
 int32_t mdGetCurrentPath(char16_t *buf, int32_t capacity);

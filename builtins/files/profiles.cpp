@@ -1,6 +1,5 @@
 #include "builtins/files/profiles.h"
 
-#include "builtins/files/file_args.h"
 #include "base/path_surgery.h"
 #include "base/u16.h"
 #include "platform/paths.h"
@@ -35,7 +34,7 @@ int32_t pfReadProfile(ModuleHandle host, const char16_t *file, const char16_t *s
                       const char16_t *item, char16_t *buf, int32_t capacity) {
     char16_t name[kProfileNameCapacity];
     profileName(host, file, name);
-    mxp_ProfileRead(name, faIsWhite(section) ? nullptr : section, faIsWhite(item) ? nullptr : item, u"", buf,
+    mxp_ProfileRead(name, u16IsWhiteText(section) ? nullptr : section, u16IsWhiteText(item) ? nullptr : item, u"", buf,
                     capacity);
     return 0;
 }

@@ -7,11 +7,10 @@
 
 namespace mx {
 
-// dst = value rounded to fract decimals (to nearest on the exact binary
-// value, ties to even), decimal separator sep before the decimals, thousand
-// (0: none) between groups of three integer digits, "-" in front of a
-// negative value; cut to cap - 1 units. Result 0; -1 with dst empty when the
-// n rounded digits give n + n/3 + 6 >= 50, and for an infinite or NaN value.
+// dst = value in fixed notation with fract decimals (see fmtFixed in
+// base/number_format.h), sep before the decimals and thousand (0: none)
+// between groups of three integer digits. Result 0; -1 with dst empty for a
+// value too long for the number buffers, infinite or NaN.
 int32_t numFloatToString(double value, char16_t *dst, int32_t cap, char16_t fract, char16_t thousand,
                          char16_t sep);
 

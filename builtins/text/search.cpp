@@ -1,5 +1,7 @@
 #include "builtins/text/search.h"
 
+#include "base/u16.h"
+
 namespace mx {
 
 namespace {
@@ -71,11 +73,6 @@ int32_t txtIsDigitString(TextIn s) {
     return 1;
 }
 
-int32_t txtIsStringWhite(TextIn s) {
-    int32_t n = txtLen(s);
-    for (int32_t i = 0; i < n; ++i)
-        if (s.s[i] > 32) return 0;
-    return 1;
-}
+int32_t txtIsStringWhite(TextIn s) { return u16IsWhiteText(s.s, txtLen(s)) ? 1 : 0; }
 
 }  // namespace mx

@@ -17,3 +17,17 @@ int32_t Kelvane_CenterWindow(WindowHandle window) {
 }
 
 }  // namespace mx
+
+namespace mx {
+
+WindowHandle SendWmMdiGetActive(WindowHandle client, int32_t *maximized) {
+    BOOL max = FALSE;
+    HWND hwnd = static_cast<HWND>(client);
+    HWND child = hwnd && IsWindow(hwnd)
+                     ? reinterpret_cast<HWND>(SendMessageW(hwnd, WM_MDIGETACTIVE, 0, reinterpret_cast<LPARAM>(&max)))
+                     : nullptr;
+    if (maximized) *maximized = child && max ? 1 : 0;
+    return child;
+}
+
+}  // namespace mx

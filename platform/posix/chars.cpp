@@ -1,19 +1,13 @@
 // Letter tests with the C library's Unicode tables (the C.UTF-8 locale),
 // without touching the process's global locale.
-#include <clocale>
 #include <cwctype>
-#include <locale.h>
 
 #include "platform/platform.h"
+#include "platform/posix/unicode_locale.h"
 
 namespace mx {
 
 namespace {
-locale_t unicodeLocale() {
-    static locale_t loc = newlocale(LC_CTYPE_MASK, "C.UTF-8", locale_t(0));
-    return loc;
-}
-
 // Latin-1 and Latin Extended-A letters, for a C library without C.UTF-8.
 bool latinLetter(char16_t c) {
     if ((c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z')) return true;

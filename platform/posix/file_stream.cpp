@@ -6,18 +6,16 @@
 
 #include <cerrno>
 
+#include "base/byte_order_mark.h"
 #include "base/utf8.h"
 #include "platform/files.h"
-#include "platform/posix/file_mode.h"
+#include "platform/file_mode.h"
 #include "platform/posix/file_share.h"
 #include "platform/posix/file_units.h"
 
 namespace mx {
 
 namespace {
-
-constexpr unsigned char kUtf8Bom[] = {0xEF, 0xBB, 0xBF};
-constexpr unsigned char kUtf16Bom[] = {0xFF, 0xFE};
 
 OpenError fromErrno(int e) {
     switch (e) {
@@ -66,18 +64,16 @@ bool setUpEncoding(MxpFile &f, int64_t size) {
     if (f.mode.write && (f.mode.truncate || size == 0)) {
         bool utf8 = f.mode.ccs == Ccs::kUtf8;
         f.encoding = utf8 ? Encoding::kUtf8 : Encoding::kUtf16;
-        bool put = utf8 ? f.io.put(kUtf8Bom, 3) : f.io.put(kUtf16Bom, 2);
+        bool put = utf8 ? f.io.put(kUtf8Mark, sizeof kUtf8Mark) : f.io.put(kUtf16leMark, sizeof kUtf16leMark);
         return put && f.io.flush();
     }
     f.encoding = ccsEncoding(f.mode.ccs);
     unsigned char head[3] = {};
     ssize_t n = pread(f.io.fd, head, 3, 0);
-    off_t skip = 0;
-    if (n == 3 && head[0] == kUtf8Bom[0] && head[1] == kUtf8Bom[1] && head[2] == kUtf8Bom[2])
-        f.encoding = Encoding::kUtf8, skip = 3;
-    else if (n >= 2 && head[0] == kUtf16Bom[0] && head[1] == kUtf16Bom[1])
-        f.encoding = Encoding::kUtf16, skip = 2;
-    return lseek(f.io.fd, skip, SEEK_SET) >= 0;
+    ByteOrderMark mark = bomDetect(head, n > 0 ? size_t(n) : 0);
+    if (mark == ByteOrderMark::kUtf8) f.encoding = Encoding::kUtf8;
+    else if (mark == ByteOrderMark::kUtf16le) f.encoding = Encoding::kUtf16;
+    return lseek(f.io.fd, off_t(bomLength(mark)), SEEK_SET) >= 0;
 }
 
 }  // namespace
@@ -85,7 +81,7 @@ bool setUpEncoding(MxpFile &f, int64_t size) {
 MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, OpenError *why) {
     OpenError dummy;
     if (!why) why = &dummy;
-    FileMode m = fmParse(mode);
+    FileMode m = fileModeParse(mode);
     if (!m.valid) return *why = OpenError::kOther, nullptr;
     std::string name = toUtf8(path);
     if (name.empty()) return *why = OpenError::kNotFound, nullptr;

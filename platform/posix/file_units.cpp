@@ -19,31 +19,25 @@ int32_t readUtf16Unit(ByteStream &io) {
     return hi < 0 ? -1 : lo | (hi << 8);
 }
 
-// One UTF-8 sequence: a malformed part gives U+FFFD; a lead byte that is the
-// last byte of the file is dropped.
+// One UTF-8 sequence: an invalid one gives U+FFFD; a sequence that the end
+// of the file breaks off before its first continuation byte is dropped.
 int32_t readUtf8Unit(MxpFile &f) {
     if (f.pendingLow) return std::exchange(f.pendingLow, char16_t(0));
-    int32_t b = f.io.get();
-    if (b < 0x80) return b;
-    int need = 0;
-    uint32_t cp = 0, lo = 0x80, hi = 0xBF;
-    if (b >= 0xC2 && b <= 0xDF) need = 1, cp = b & 0x1F;
-    else if (b >= 0xE0 && b <= 0xEF)
-        need = 2, cp = b & 0x0F, lo = b == 0xE0 ? 0xA0 : 0x80, hi = b == 0xED ? 0x9F : 0xBF;
-    else if (b >= 0xF0 && b <= 0xF4)
-        need = 3, cp = b & 0x07, lo = b == 0xF0 ? 0x90 : 0x80, hi = b == 0xF4 ? 0x8F : 0xBF;
-    else return kReplacement;
-    for (int k = 0; k < need; ++k, lo = 0x80, hi = 0xBF) {
-        int32_t c = f.io.peek();
-        if (c < 0) return k == 0 ? -1 : kReplacement;
-        if (uint32_t(c) < lo || uint32_t(c) > hi) return kReplacement;
-        f.io.skip(1);
-        cp = (cp << 6) | (uint32_t(c) & 0x3F);
+    // Byte by byte, so that no more is read ahead than the sequence needs.
+    unsigned char bytes[4];
+    size_t n = 0;
+    Utf8Read r{};
+    for (int32_t b; n < 4 && (b = f.io.peek(n)) >= 0;) {
+        bytes[n++] = static_cast<unsigned char>(b);
+        r = utf8Decode(bytes, n);
+        if (!r.truncated) break;
     }
-    if (cp < 0x10000) return int32_t(cp);
-    cp -= 0x10000;
-    f.pendingLow = char16_t(0xDC00 + (cp & 0x3FF));
-    return int32_t(0xD800 + (cp >> 10));
+    if (n == 0) return -1;
+    f.io.skip(size_t(r.length));
+    if (r.truncated && r.length == 1) return -1;
+    char16_t u[2];
+    if (utf16Encode(r.cp, u) == 2) f.pendingLow = u[1];
+    return u[0];
 }
 
 // True when the next unit in the file is a line feed; consumes it then.

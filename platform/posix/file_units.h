@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "platform/posix/byte_stream.h"
-#include "platform/posix/file_mode.h"
+#include "platform/file_mode.h"
 
 namespace mx {
 

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "base/u16.h"
+#include "base/byte_order_mark.h"
 #include "base/utf8.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -40,35 +41,30 @@ std::u16string resolve(const char16_t *file, bool forWriting) {
     return std::u16string(dir) + u"/" + name;
 }
 
-bool validUtf8(const std::string &bytes) {
-    std::u16string round = fromUtf8(bytes);
-    return toUtf8(round.c_str(), int64_t(round.size())) == bytes;
-}
-
 std::u16string decode(const std::string &bytes, Form *form) {
-    if (bytes.size() >= 2 && bytes[0] == '\xFF' && bytes[1] == '\xFE') {
+    ByteOrderMark mark = bomDetect(bytes);
+    if (mark == ByteOrderMark::kUtf16le) {
         *form = Form::kUtf16;
-        std::u16string out;
-        for (size_t i = 2; i + 1 < bytes.size(); i += 2)
-            out += char16_t(uint8_t(bytes[i]) | (uint8_t(bytes[i + 1]) << 8));
-        return out;
+        return fromUtf16le(bytes, bomLength(mark));
     }
-    if (bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) {
+    if (mark == ByteOrderMark::kUtf8) {
         *form = Form::kUtf8Bom;
-        return fromUtf8(bytes.substr(3));
+        return fromUtf8(bytes.substr(bomLength(mark)));
     }
-    *form = validUtf8(bytes) ? Form::kUtf8 : Form::kLatin1;
+    *form = utf8Valid(bytes) ? Form::kUtf8 : Form::kLatin1;
     return *form == Form::kUtf8 ? fromUtf8(bytes) : mxp_FromAnsi(bytes.c_str());
 }
 
 std::string encode(const std::u16string &text, Form form) {
     switch (form) {
         case Form::kUtf16: {
-            std::string out = "\xFF\xFE";
+            std::string out(reinterpret_cast<const char *>(kUtf16leMark), sizeof kUtf16leMark);
             for (char16_t u : text) out += char(u & 0xFF), out += char(u >> 8);
             return out;
         }
-        case Form::kUtf8Bom: return "\xEF\xBB\xBF" + toUtf8(text.c_str(), int64_t(text.size()));
+        case Form::kUtf8Bom:
+            return std::string(reinterpret_cast<const char *>(kUtf8Mark), sizeof kUtf8Mark) +
+                   toUtf8(text.c_str(), int64_t(text.size()));
         case Form::kLatin1: return mxp_ToAnsi(text.c_str());
         default: return toUtf8(text.c_str(), int64_t(text.size()));
     }

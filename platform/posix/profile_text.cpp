@@ -1,6 +1,6 @@
 #include "platform/posix/profile_text.h"
 
-#include "platform/posix/name_fold.h"
+#include "base/case_rules.h"
 
 namespace mx {
 
@@ -60,7 +60,7 @@ bool findSection(const std::vector<std::u16string> &lines, const std::u16string 
             *end = i;
             return true;
         }
-        if (nfEqual(name, section)) inside = true, *begin = i + 1;
+        if (caseEqualNames(name, section)) inside = true, *begin = i + 1;
     }
     *end = lines.size();
     return inside;
@@ -71,7 +71,7 @@ size_t findEntry(const std::vector<std::u16string> &lines, size_t begin, size_t 
                  const std::u16string &key) {
     Entry e;
     for (size_t i = begin; i < end; ++i)
-        if (entryOf(lines[i], &e) && e.hasValue && nfEqual(e.name, key)) return i;
+        if (entryOf(lines[i], &e) && e.hasValue && caseEqualNames(e.name, key)) return i;
     return end;
 }
 

@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "base/utf8.h"
-#include "platform/posix/name_fold.h"
+#include "base/case_rules.h"
 
 namespace mx {
 
@@ -57,7 +57,7 @@ bool parseValue(const std::string &line, RegValue *v) {
 bool below(const std::u16string &child, const std::u16string &parent) {
     if (parent.empty()) return !child.empty();
     return child.size() > parent.size() && child[parent.size()] == u'\\' &&
-           nfEqual(child.substr(0, parent.size()), parent);
+           caseEqualNames(child.substr(0, parent.size()), parent);
 }
 
 }  // namespace
@@ -118,7 +118,7 @@ std::string RegistryStore::serialize() const {
 RegKey *RegistryStore::find(const std::u16string &path) {
     std::u16string c = canonical(path);
     for (RegKey &k : keys)
-        if (nfEqual(k.path, c)) return &k;
+        if (caseEqualNames(k.path, c)) return &k;
     return nullptr;
 }
 
@@ -133,7 +133,7 @@ RegKey &RegistryStore::create(const std::u16string &path) {
 
 RegValue *RegistryStore::findValue(RegKey &key, const std::u16string &name) {
     for (RegValue &v : key.values)
-        if (nfEqual(v.name, name)) return &v;
+        if (caseEqualNames(v.name, name)) return &v;
     return nullptr;
 }
 
@@ -148,7 +148,7 @@ bool RegistryStore::removeKey(const std::u16string &path) {
     std::u16string c = canonical(path);
     if (c.empty() || hasSubkeys(c)) return false;
     for (size_t i = 0; i < keys.size(); ++i)
-        if (nfEqual(keys[i].path, c)) {
+        if (caseEqualNames(keys[i].path, c)) {
             keys.erase(keys.begin() + std::ptrdiff_t(i));
             return true;
         }

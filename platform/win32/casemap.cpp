@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "platform/casemap.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
@@ -18,11 +19,11 @@ char16_t mxp_CharLower(char16_t c) {
 }
 
 void mxp_UpperText(char16_t *s, int32_t n) {
-    if (s && n > 0) CharUpperBuffW(reinterpret_cast<wchar_t *>(s), DWORD(n));
+    if (s && n > 0) CharUpperBuffW(wide(s), DWORD(n));
 }
 
 void mxp_LowerText(char16_t *s, int32_t n) {
-    if (s && n > 0) CharLowerBuffW(reinterpret_cast<wchar_t *>(s), DWORD(n));
+    if (s && n > 0) CharLowerBuffW(wide(s), DWORD(n));
 }
 
 }  // namespace mx

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "platform/platform.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
@@ -19,13 +20,13 @@ void mxp_SetBoxSink(BoxSink) {}
 WindowHandle mxp_ActiveWindow() { return GetActiveWindow(); }
 
 uint32_t mxp_RegisterWindowMessage(const char16_t *name) {
-    return RegisterWindowMessageW(reinterpret_cast<const wchar_t *>(name));
+    return RegisterWindowMessageW(wide(name));
 }
 
 int32_t mxp_MessageBox(WindowHandle owner, const char16_t *text, const char16_t *title,
                        uint32_t style) {
-    return MessageBoxW(static_cast<HWND>(owner), reinterpret_cast<const wchar_t *>(text),
-                       reinterpret_cast<const wchar_t *>(title), style);
+    return MessageBoxW(static_cast<HWND>(owner), wide(text),
+                       wide(title), style);
 }
 
 }  // namespace mx

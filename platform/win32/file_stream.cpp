@@ -6,7 +6,9 @@
 #include <share.h>
 #include <sys/stat.h>
 
+#include "platform/file_mode.h"
 #include "platform/files.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
@@ -34,24 +36,20 @@ int shareFlag(Share share) {
     }
 }
 
-bool hasCcs(const char16_t *mode) {
-    for (const char16_t *p = mode; p && *p; ++p)
-        if (*p == u',') return true;
-    return false;
-}
-
-const wchar_t *wide(const char16_t *s) { return reinterpret_cast<const wchar_t *>(s); }
 }  // namespace
 
 MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, OpenError *why) {
+    // One reading of mode texts for both builds: a mode the Linux streams
+    // refuse never reaches the runtime here either.
+    FileMode m = fileModeParse(mode);
     errno = 0;
-    FILE *fp = path && mode ? _wfsopen(wide(path), wide(mode), shareFlag(share)) : nullptr;
+    FILE *fp = path && m.valid ? _wfsopen(wide(path), wide(mode), shareFlag(share)) : nullptr;
     if (!fp) {
-        if (why) *why = path && mode ? fromErrno(errno) : OpenError::kOther;
+        if (why) *why = path && m.valid ? fromErrno(errno) : OpenError::kOther;
         return nullptr;
     }
     if (why) *why = OpenError::kNone;
-    return new MxpFile{fp, hasCcs(mode)};
+    return new MxpFile{fp, m.ccs != Ccs::kNone};
 }
 
 void mxp_FileClose(MxpFile *file) {
@@ -80,7 +78,7 @@ int32_t mxp_FileReadLine(MxpFile *file, char16_t *buf, int32_t capacity) {
     if (!buf || capacity < 1) return -1;
     buf[0] = 0;
     if (!file || capacity < 2) return -1;
-    wchar_t *w = reinterpret_cast<wchar_t *>(buf);
+    wchar_t *w = wide(buf);
     if (!std::fgetws(w, capacity, file->fp)) {
         buf[0] = 0;
         return -1;

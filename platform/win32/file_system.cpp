@@ -8,12 +8,11 @@
 
 #include "base/u16.h"
 #include "platform/files.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
 namespace {
-const wchar_t *wide(const char16_t *s) { return reinterpret_cast<const wchar_t *>(s); }
-const char16_t *narrow(const wchar_t *s) { return reinterpret_cast<const char16_t *>(s); }
 bool empty(const char16_t *s) { return !s || !*s; }
 }  // namespace
 

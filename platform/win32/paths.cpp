@@ -5,13 +5,11 @@
 
 #include "base/u16.h"
 #include "platform/paths.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
 namespace {
-const wchar_t *wide(const char16_t *s) { return reinterpret_cast<const wchar_t *>(s); }
-wchar_t *wide(char16_t *s) { return reinterpret_cast<wchar_t *>(s); }
-const char16_t *narrow(const wchar_t *s) { return reinterpret_cast<const char16_t *>(s); }
 constexpr DWORD kLongPath = 32768;
 }  // namespace
 

@@ -4,12 +4,11 @@
 #include <vector>
 
 #include "platform/registry.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
 namespace {
-
-const wchar_t *wide(const char16_t *s) { return reinterpret_cast<const wchar_t *>(s ? s : u""); }
 
 HKEY hive(RegRoot root) {
     switch (root) {
@@ -22,13 +21,14 @@ HKEY hive(RegRoot root) {
 // Opens key with access; absent when the root selects no hive or it fails.
 HKEY openKey(RegRoot root, const char16_t *key, REGSAM access) {
     HKEY h = nullptr;
-    if (!hive(root) || RegOpenKeyExW(hive(root), wide(key), 0, access, &h) != ERROR_SUCCESS) return nullptr;
+    if (!hive(root) || RegOpenKeyExW(hive(root), wideOrEmpty(key), 0, access, &h) != ERROR_SUCCESS)
+        return nullptr;
     return h;
 }
 
 HKEY createKey(RegRoot root, const char16_t *key) {
     HKEY h = nullptr;
-    if (!hive(root) || RegCreateKeyExW(hive(root), wide(key), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &h,
+    if (!hive(root) || RegCreateKeyExW(hive(root), wideOrEmpty(key), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &h,
                                        nullptr) != ERROR_SUCCESS)
         return nullptr;
     return h;
@@ -38,7 +38,8 @@ bool setValue(RegRoot root, const char16_t *key, const char16_t *name, DWORD typ
               DWORD size) {
     HKEY h = createKey(root, key);
     if (!h) return false;
-    bool ok = RegSetValueExW(h, wide(name), 0, type, static_cast<const BYTE *>(data), size) == ERROR_SUCCESS;
+    bool ok =
+        RegSetValueExW(h, wideOrEmpty(name), 0, type, static_cast<const BYTE *>(data), size) == ERROR_SUCCESS;
     RegCloseKey(h);
     return ok;
 }
@@ -49,13 +50,13 @@ bool mxp_RegReadString(RegRoot root, const char16_t *key, const char16_t *name, 
     HKEY h = openKey(root, key, KEY_QUERY_VALUE);
     if (!h) return false;
     DWORD type = 0, size = 0;
-    bool ok = RegQueryValueExW(h, wide(name), nullptr, &type, nullptr, &size) == ERROR_SUCCESS &&
+    bool ok = RegQueryValueExW(h, wideOrEmpty(name), nullptr, &type, nullptr, &size) == ERROR_SUCCESS &&
               (type == REG_SZ || type == REG_EXPAND_SZ);
     std::vector<wchar_t> data(size / sizeof(wchar_t) + 1, 0);
-    ok = ok && RegQueryValueExW(h, wide(name), nullptr, &type, reinterpret_cast<BYTE *>(data.data()),
+    ok = ok && RegQueryValueExW(h, wideOrEmpty(name), nullptr, &type, reinterpret_cast<BYTE *>(data.data()),
                                 &size) == ERROR_SUCCESS;
     RegCloseKey(h);
-    if (ok) out->assign(reinterpret_cast<const char16_t *>(data.data()));
+    if (ok) out->assign(narrow(data.data()));
     return ok;
 }
 
@@ -63,7 +64,7 @@ bool mxp_RegReadDword(RegRoot root, const char16_t *key, const char16_t *name, u
     HKEY h = openKey(root, key, KEY_QUERY_VALUE);
     if (!h) return false;
     DWORD type = 0, value = 0, size = sizeof value;
-    bool ok = RegQueryValueExW(h, wide(name), nullptr, &type, reinterpret_cast<BYTE *>(&value), &size) ==
+    bool ok = RegQueryValueExW(h, wideOrEmpty(name), nullptr, &type, reinterpret_cast<BYTE *>(&value), &size) ==
                   ERROR_SUCCESS &&
               type == REG_DWORD && size == sizeof value;
     RegCloseKey(h);
@@ -72,7 +73,7 @@ bool mxp_RegReadDword(RegRoot root, const char16_t *key, const char16_t *name, u
 }
 
 bool mxp_RegWriteString(RegRoot root, const char16_t *key, const char16_t *name, const char16_t *value) {
-    const wchar_t *v = wide(value);
+    const wchar_t *v = wideOrEmpty(value);
     return setValue(root, key, name, REG_SZ, v, DWORD((wcslen(v) + 1) * sizeof(wchar_t)));
 }
 
@@ -84,14 +85,14 @@ bool mxp_RegWriteDword(RegRoot root, const char16_t *key, const char16_t *name, 
 int32_t mxp_RegDeleteValue(RegRoot root, const char16_t *key, const char16_t *name) {
     HKEY h = openKey(root, key, KEY_SET_VALUE);
     if (!h) return -1;
-    bool ok = RegDeleteValueW(h, wide(name)) == ERROR_SUCCESS;
+    bool ok = RegDeleteValueW(h, wideOrEmpty(name)) == ERROR_SUCCESS;
     RegCloseKey(h);
     return ok ? 0 : -1;
 }
 
 int32_t mxp_RegDeleteKey(RegRoot root, const char16_t *key) {
     if (!hive(root)) return -1;
-    return RegDeleteKeyW(hive(root), wide(key)) == ERROR_SUCCESS ? 0 : -1;
+    return RegDeleteKeyW(hive(root), wideOrEmpty(key)) == ERROR_SUCCESS ? 0 : -1;
 }
 
 }  // namespace mx

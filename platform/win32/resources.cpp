@@ -1,10 +1,10 @@
 #include <windows.h>
 
-#include <cstdio>
-#include <vector>
-
+#include "base/text_out.h"
 #include "base/u16.h"
+#include "platform/paths.h"
 #include "platform/platform.h"
+#include "platform/win32/wide.h"
 
 namespace mx {
 
@@ -12,7 +12,7 @@ int32_t mxp_LoadString(ModuleHandle module, uint32_t id, char16_t *buf, int32_t 
     if (!buf || capacity < 1) return 0;
     buf[0] = 0;
     if (capacity < 2) return 0;
-    int n = LoadStringW(static_cast<HINSTANCE>(module), id, reinterpret_cast<wchar_t *>(buf), capacity);
+    int n = LoadStringW(static_cast<HINSTANCE>(module), id, wide(buf), capacity);
     if (n <= 0) buf[0] = 0;
     return n > 0 ? n : 0;
 }
@@ -20,21 +20,15 @@ int32_t mxp_LoadString(ModuleHandle module, uint32_t id, char16_t *buf, int32_t 
 int32_t mxp_ModuleFileVersion(ModuleHandle module, char16_t *buf, int32_t capacity) {
     u16Copy(buf, capacity, u"");
     wchar_t path[MAX_PATH];
-    if (!GetModuleFileNameW(static_cast<HMODULE>(module), path, MAX_PATH)) return 0;
-    DWORD handle = 0;
-    DWORD size = GetFileVersionInfoSizeW(path, &handle);
-    if (!size) return 0;
-    std::vector<unsigned char> data(size);
-    VS_FIXEDFILEINFO *info = nullptr;
-    UINT len = 0;
-    if (!GetFileVersionInfoW(path, 0, size, data.data()) ||
-        !VerQueryValueW(data.data(), L"\\", reinterpret_cast<void **>(&info), &len) || !info)
+    uint16_t v[4];
+    if (!GetModuleFileNameW(static_cast<HMODULE>(module), path, MAX_PATH) || !mxp_FileVersion(narrow(path), v))
         return 0;
-    char text[64];
-    std::snprintf(text, sizeof text, "%u.%u.%u.%u", unsigned(HIWORD(info->dwFileVersionMS)),
-                  unsigned(LOWORD(info->dwFileVersionMS)), unsigned(HIWORD(info->dwFileVersionLS)),
-                  unsigned(LOWORD(info->dwFileVersionLS)));
-    return u16FromAscii(buf, capacity, text);
+    TextOut out(buf, capacity);
+    for (int i = 0; i < 4; ++i) {
+        if (i > 0) out.put(u'.');
+        out.decimal(v[i]);
+    }
+    return out.len;
 }
 
 }  // namespace mx

@@ -143,11 +143,11 @@ TEST(FilePaths, WindowsDirectoryStandInFollowsTheEnvironment) {
     std::string saved = getenv("MORVIX_WINDOWS_DIR") ? getenv("MORVIX_WINDOWS_DIR") : "";
     setenv("MORVIX_WINDOWS_DIR", "/srv/mx-windows/", 1);
     char16_t buf[64];
-    EXPECT_EQ(mdGetWindowsPath(buf, 64), 0);
+    EXPECT_EQ(mdGetUserPath(buf, 64), 0);
     EXPECT_EQ(toUtf8(buf), "/srv/mx-windows");
     unsetenv("MORVIX_WINDOWS_DIR");
     setenv("XDG_CONFIG_HOME", "/cfg", 1);
-    mdGetWindowsPath(buf, 64);
+    mdGetUserPath(buf, 64);
     EXPECT_EQ(toUtf8(buf), "/cfg/morvix");
     unsetenv("XDG_CONFIG_HOME");
     setenv("MORVIX_WINDOWS_DIR", saved.c_str(), 1);

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "base/utf8.h"
+#include "engine/arg_reads.h"
 #include "platform/platform.h"
 #include "tools/host_common.h"
 
@@ -25,11 +26,14 @@ LONG CALLBACK capturePrint(LONG number, MX_VALUE **args, LONG count, LONG_PTR) {
 template <class F>
 MacroRun capture(F run) {
     captured.clear();
+    mx::argReadFaults();  // only this run's misfits count
     mx::mxp_SetBoxSink(captureBox);
     MacroRun r;
     r.result = run();
     mx::mxp_SetBoxSink(nullptr);
-    r.output = captured;
+    // A handler that reads an argument otherwise than its entry says shows
+    // up in the output, so that the run fails its expectation.
+    r.output = captured + mx::argReadFaults();
     return r;
 }
 }  // namespace
@@ -92,7 +96,7 @@ CoreRun runCore(const std::u16string &text, bool file) {
     req.hostCallback = reinterpret_cast<mx::HostCallback>(&capturePrint);
     req.countryCode = 1;
     mx::RunContext ctx;
-    mx::runInit(ctx, req);
+    mx::entryInit(ctx, req);
     CoreRun r;
     MacroRun m = capture([&] { return mx::runDriver(ctx); });
     r.result = m.result;

@@ -16,19 +16,19 @@ namespace {
 
 // The order document of the worked example, built through the built-ins.
 int32_t orderDocument() {
-    int32_t doc = XMLCreate(u"order", u"ISO-8859-1");
-    int32_t root = XMLGetRoot(doc);
-    XMLSetAttr(root, u"id", u"4711");
-    int32_t item = XMLAddChild(root, u"item", u"Tom & Jerry <2>");
-    XMLSetAttr(item, u"note", u"a  \"b\"");
-    XMLAddChild(item, u"qty", u"3");
-    XMLAddChild(root, u"empty", u"");
+    int32_t doc = xmlCreate(u"order", u"ISO-8859-1");
+    int32_t root = xmlGetRoot(doc);
+    xmlSetAttr(root, u"id", u"4711");
+    int32_t item = xmlAddChild(root, u"item", u"Tom & Jerry <2>");
+    xmlSetAttr(item, u"note", u"a  \"b\"");
+    xmlAddChild(item, u"qty", u"3");
+    xmlAddChild(root, u"empty", u"");
     return doc;
 }
 
 std::string writtenByHandle(int32_t doc, int32_t flags, const std::string &name = "h.xml") {
     std::string path = xmltest::tempPath(name);
-    EXPECT_EQ(XMLWriteFile(doc, mx::fromUtf8(path).c_str(), flags), 1);
+    EXPECT_EQ(xmlWriteFile(doc, mx::fromUtf8(path).c_str(), flags), 1);
     return readFile(path);
 }
 
@@ -44,7 +44,7 @@ TEST(XmlWriter, WorkedExampleWithIndentation) {
               crlf({"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>", "<order id=\"4711\">",
                     " <item note=\"a &#x20;&#x22;b&#x22;\">", "  Tom &#x26; Jerry &#x3C;2&#x3E;",
                     "  <qty>3</qty>", " </item>", " <empty/>", "</order>"}));
-    XMLDelete(doc);
+    xmlDelete(doc);
 }
 
 TEST(XmlWriter, WorkedExampleWithoutIndentationAndAsHtml) {
@@ -60,19 +60,19 @@ TEST(XmlWriter, WorkedExampleWithoutIndentationAndAsHtml) {
     html.insert(html.begin(), {"<!DOCTYPE HTML>", ""});
     EXPECT_EQ(writtenByHandle(doc, XMLWF_HTML), crlf(html));
     EXPECT_EQ(writtenByHandle(doc, 8 | 16 | 256), crlf(plain));  // other bits do nothing
-    XMLDelete(doc);
+    xmlDelete(doc);
 }
 
 TEST(XmlWriter, HtmlExampleWithVoidElements) {
-    int32_t doc = XMLCreate(u"html", u"");
-    int32_t body = XMLAddChild(XMLGetRoot(doc), u"body", u"");
-    XMLSetAttr(XMLAddChild(body, u"img", u""), u"src", u"a.png");
-    XMLAddChild(body, u"p", u"Hi");
-    XMLAddChild(body, u"br", u"");
+    int32_t doc = xmlCreate(u"html", u"");
+    int32_t body = xmlAddChild(xmlGetRoot(doc), u"body", u"");
+    xmlSetAttr(xmlAddChild(body, u"img", u""), u"src", u"a.png");
+    xmlAddChild(body, u"p", u"Hi");
+    xmlAddChild(body, u"br", u"");
     EXPECT_EQ(writtenByHandle(doc, XMLWF_HTML),
               crlf({"<!DOCTYPE HTML>", "", "<html>", "<body>", "<img src=\"a.png\">", "<p>Hi</p>",
                     "<br></br>", "</body>", "</html>"}));
-    XMLDelete(doc);
+    xmlDelete(doc);
 }
 
 TEST(XmlWriter, VoidElementsIgnoreCaseKeepTextAndCloseWithChildren) {

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "platform/file_mode.h"
 #include "tests/native/file_mode_cases.h"
 #include "tests/native/file_profile_cases.h"
 #include "win_harness.h"
@@ -62,6 +63,26 @@ TEST_F(WinModes, RuntimeRefusesTheInvalidModes) {
         errno = 0;
         EXPECT_EQ(_wfsopen(name.c_str(), W(mode), _SH_DENYNO), nullptr);
         EXPECT_EQ(errno, EINVAL);
+    }
+}
+
+// The library reads mode texts itself before the runtime sees them, so the
+// reading must accept exactly the modes the runtime accepts.
+TEST_F(WinModes, TheLibrarysModeReadingAgreesWithTheRuntime) {
+    std::wstring name = dir + L"\\m.txt";
+    std::vector<const char16_t *> modes = filecases::invalidModes();
+    for (const filecases::WriteCase &c : filecases::writeCases()) modes.push_back(c.mode);
+    for (const filecases::ReadCase &c : filecases::readCases()) modes.push_back(c.mode);
+    for (const char16_t *m : {u"rt", u"r+b", u"rb+", u"a+t", u"R", u"rN", u"rS", u"rc", u"w ", u" r",
+                              u"r, ccs=utf-16le", u"r,ccs=UNICODE", u"r , ccs=UTF-8", u"r,  ccs = UTF-8 ",
+                              u"x", u"+r", u"r,ccs=", u"r, ccs=UTF-16", u"r, ccs=UTF8"})
+        modes.push_back(m);
+    for (const char16_t *mode : modes) {
+        SCOPED_TRACE(fs::path(W(mode)).string());
+        winWriteFile(name, "x");
+        FILE *f = _wfsopen(name.c_str(), W(mode), _SH_DENYNO);
+        if (f) fclose(f);
+        EXPECT_EQ(mx::fileModeParse(mode).valid, f != nullptr);
     }
 }
 

@@ -27,6 +27,9 @@ TEST(WinGolden, EveryMacroPrintsItsExpectedOutput) {
     GetCurrentDirectoryW(MAX_PATH, cwd);
     for (const fs::path &mac : macros) {
         SCOPED_TRACE(mac.string());
+        // Macros with dialogs need their answer script: the host test runs
+        // them through mxrun.exe --answers.
+        if (fs::exists(fs::path(mac).replace_extension(".answers"))) continue;
         std::string text = winReadFile(mac.wstring());
         std::wstring dir = winScratchDir();
         fs::copy_file(mac, fs::path(dir) / mac.filename());

@@ -7,6 +7,7 @@
 #include <io.h>
 
 #include "host_common.h"
+#include "answer_hook.h"
 #include "unattended.h"
 
 namespace {
@@ -47,7 +48,16 @@ int wmain(int argc, wchar_t **argv) {
         std::fprintf(stderr, "mxrun: morvix32w.dll cannot be loaded\n");
         return 70;
     }
-    if (o.unattended) unattendedStart();
+    if (!o.answers.empty()) {
+        // The answer script answers every dialog, message boxes included.
+        if (!answersLoad(o.answers, error)) {
+            std::fprintf(stderr, "mxrun: %s\n", error.c_str());
+            return 66;
+        }
+        answerHookStart();
+    } else if (o.unattended) {
+        unattendedStart();
+    }
     hostSetAbortAfter(o.abortAfter);
     MX_ABORT_CALLBACK abort = o.abortAfter >= 0 ? hostAbort : nullptr;
     LONG r;

@@ -3,7 +3,7 @@
 //   letter = r | w | a            (either case)
 //   flag   = "+" | "t" | "b" | any other character but ","   (others ignored)
 //   name   = UTF-8 | UTF-16LE | UNICODE                       (any case)
-#include "platform/posix/file_mode.h"
+#include "platform/file_mode.h"
 
 #include <cstdint>
 
@@ -51,7 +51,7 @@ bool readCcs(const char16_t *&p, FileMode &m) {
 
 }  // namespace
 
-FileMode fmParse(const char16_t *mode) {
+FileMode fileModeParse(const char16_t *mode) {
     FileMode m;
     if (!mode) return m;
     const char16_t *p = mode;

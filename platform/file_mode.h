@@ -19,6 +19,6 @@ struct FileMode {
 };
 
 // Reads a mode text; the result's valid is false for an invalid one.
-FileMode fmParse(const char16_t *mode);
+FileMode fileModeParse(const char16_t *mode);
 
 }  // namespace mx
