@@ -33,6 +33,19 @@ typedef void *HINSTANCE;
 #define MX_EXPORT
 #endif
 
+/* The library's version: the DLL's version resource, Morvix_GetVersion and
+ * the name of the download all take it from these four lines, the build
+ * reads them from here. MORVIX_VERSION_TEXT is "MAJOR.MINOR.PATCH.BUILD". */
+#define MORVIX_VERSION_MAJOR 1
+#define MORVIX_VERSION_MINOR 2
+#define MORVIX_VERSION_PATCH 0
+#define MORVIX_VERSION_BUILD 3
+#define MORVIX_STRINGIFY_(x) #x
+#define MORVIX_STRINGIFY(x) MORVIX_STRINGIFY_(x)
+#define MORVIX_VERSION_TEXT                                                       \
+    MORVIX_STRINGIFY(MORVIX_VERSION_MAJOR) "." MORVIX_STRINGIFY(MORVIX_VERSION_MINOR) "." \
+        MORVIX_STRINGIFY(MORVIX_VERSION_PATCH) "." MORVIX_STRINGIFY(MORVIX_VERSION_BUILD)
+
 #ifdef __cplusplus
 extern "C" {
 #endif

@@ -1,7 +1,9 @@
 #include "odbc/odbc_attach.h"
 
+#include "odbc/odbc_connections.h"
+
 namespace mx {
 
-void odbcAttach() {}
+void odbcAttach() { odbcTableCreate(); }
 
 }  // namespace mx

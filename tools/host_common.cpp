@@ -33,7 +33,8 @@ const MX_FUNCTION_ROW kHostTable[] = {
 
 const char *hostUsage() {
     return "usage: HOST [--country N] [--title T] [--abort-after N] [--unattended] [--answers F] FILE [PARAM...]\n"
-           "       HOST [--country N] [--title T] [--abort-after N] [--unattended] [--answers F] -e TEXT\n";
+           "       HOST [--country N] [--title T] [--abort-after N] [--unattended] [--answers F] -e TEXT\n"
+           "       HOST --check [--host NAME[=SIGNATURE]]... FILE...   (read for mistakes, run nothing)\n";
 }
 
 bool hostParseArgs(const std::vector<std::u16string> &args, HostOptions &o, std::string &error) {

@@ -1,14 +1,18 @@
-// morvix: runs a macro on Linux. Boxes the library shows go to standard error.
+// morvix: runs a macro on Linux, or checks macros with --check. Boxes the
+// library shows go to standard error.
 #include <cstdio>
 
 #include "answers.h"
 #include "base/utf8.h"
+#include "check_command.h"
 #include "dialogs/dialog_answers.h"
 #include "host_common.h"
 
 int main(int argc, char **argv) {
     std::vector<std::u16string> args;
     for (int i = 1; i < argc; ++i) args.push_back(mx::fromUtf8(argv[i]));
+    if (!args.empty() && args[0] == u"--check")
+        return hostCheckFiles({args.begin() + 1, args.end()}, Get_MacroLib_InternalFunctionList());
     HostOptions o;
     std::string error;
     if (!hostParseArgs(args, o, error)) {

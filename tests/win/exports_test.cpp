@@ -17,10 +17,13 @@ TEST(WinExports, EveryExportAnswers) {
     const WinExports &e = dll();
     ASSERT_NE(e.dll, nullptr);
     WCHAR buf[64];
-    EXPECT_EQ(e.getVersion(buf, 64), 7);
-    EXPECT_EQ(text(buf), L"1.0.0.0");
-    EXPECT_EQ(e.getMacroLibVersion(buf, 64), 7);
-    EXPECT_EQ(text(buf), L"1.0.0.0");
+    // The version resource says what the header says.
+    const std::string version = MORVIX_VERSION_TEXT;
+    const std::wstring wide(version.begin(), version.end());
+    EXPECT_EQ(e.getVersion(buf, 64), LONG(wide.size()));
+    EXPECT_EQ(text(buf), wide);
+    EXPECT_EQ(e.getMacroLibVersion(buf, 64), LONG(wide.size()));
+    EXPECT_EQ(text(buf), wide);
     EXPECT_EQ(e.getTlxModuleName(buf, 64), 9);
     EXPECT_EQ(text(buf), L"MORVIXDLL");
     EXPECT_EQ(e.getTlxModuleName(buf, 4), 3);

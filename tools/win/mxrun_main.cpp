@@ -1,11 +1,14 @@
 // mxrun.exe: runs a macro on Windows through morvix32w.dll, loaded with
-// LoadLibraryW like any host would. Options and output as the native morvix.
+// LoadLibraryW like any host would, or checks macros with --check. Options
+// and output as the native morvix.
 #include <windows.h>
 
 #include <cstdio>
 #include <fcntl.h>
 #include <io.h>
 
+#include "check_command.h"
+#include "engine/process_state.h"
 #include "host_common.h"
 #include "answer_hook.h"
 #include "unattended.h"
@@ -30,6 +33,22 @@ bool load(Exports &e) {
 
 const WCHAR *w(const std::u16string &s) { return reinterpret_cast<const WCHAR *>(s.c_str()); }
 
+// --check FILE...: the engine's check, linked in, with the DLL's built-in
+// table and its string table, so the messages are the run's own.
+int checkCommand(const std::vector<std::u16string> &args) {
+    HMODULE dll = LoadLibraryW(L"morvix32w.dll");
+    auto table = dll ? reinterpret_cast<decltype(&Get_MacroLib_InternalFunctionList)>(
+                           reinterpret_cast<void *>(GetProcAddress(dll, "Get_MacroLib_InternalFunctionList")))
+                     : nullptr;
+    if (!table) {
+        std::fprintf(stderr, "mxrun: morvix32w.dll cannot be loaded\n");
+        return 70;
+    }
+    mx::gProcess.module = dll;
+    mx::gProcess.tlxModuleName = u"MORVIXDLL";
+    return hostCheckFiles({args.begin() + 1, args.end()}, table());
+}
+
 }  // namespace
 
 int wmain(int argc, wchar_t **argv) {
@@ -37,6 +56,7 @@ int wmain(int argc, wchar_t **argv) {
     _setmode(_fileno(stderr), _O_BINARY);
     std::vector<std::u16string> args;
     for (int i = 1; i < argc; ++i) args.emplace_back(reinterpret_cast<const char16_t *>(argv[i]));
+    if (!args.empty() && args[0] == u"--check") return checkCommand(args);
     HostOptions o;
     std::string error;
     if (!hostParseArgs(args, o, error)) {

@@ -22,10 +22,11 @@ struct Processes : ::testing::Test {
                         DWORD((command.size() + 1) * sizeof(wchar_t)));
     }
 
-    // The command line writecmd.exe wrote for file, waiting for it up to 20 s.
+    // The command line writecmd.exe wrote for file, waiting for it up to 60 s
+    // (a start through the shell is slow on a loaded machine).
     static std::string written(const std::wstring &file) {
         std::wstring out = file + L".cmdline";
-        for (int i = 0; i < 400 && GetFileAttributesW(out.c_str()) == INVALID_FILE_ATTRIBUTES; ++i) Sleep(50);
+        for (int i = 0; i < 1200 && GetFileAttributesW(out.c_str()) == INVALID_FILE_ATTRIBUTES; ++i) Sleep(50);
         return winReadFile(out);
     }
 };
