@@ -91,11 +91,48 @@ int32_t readArguments(RunContext &ctx, const FunctionRow *row, char16_t *&p, Val
     return count;
 }
 
+// Sets the bit of each name's first character (codes below 128) in bits.
+void collectInitials(const FunctionRow *rows, int32_t count, uint64_t bits[2]) {
+    bits[0] = bits[1] = 0;
+    for (int32_t i = 0; i < count; ++i) {
+        char16_t c = rows[i].name[0];
+        if (c < 128) bits[c >> 6] |= uint64_t(1) << (c & 63);
+    }
+}
+
+// False when no row of the table whose initials are bits can be called name:
+// most names in formulas are variables, and this spares them two searches.
+bool mayBeRow(const uint64_t bits[2], const char16_t *name) {
+    char16_t c = name[0];
+    return c >= 128 || (bits[c >> 6] >> (c & 63)) & 1;
+}
+
+// Initials of one table, counted once for each table they are asked for.
+struct TableInitials {
+    const FunctionRow *rows = nullptr;
+    int32_t count = -1;
+    uint64_t bits[2] = {};
+
+    const uint64_t *of(const FunctionRow *r, int32_t n) {
+        if (r != rows || n != count) refresh(r, n);
+        return bits;
+    }
+    void refresh(const FunctionRow *r, int32_t n) {
+        collectInitials(r, n, bits);
+        rows = r, count = n;
+    }
+};
+TableInitials gBuiltinInitials;
+// The host table's, counted again at every run start: a host may change its
+// table between runs, never during one.
+TableInitials gHostInitials;
+
 int32_t invoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args, int32_t count) {
     int32_t number = int32_t(row->identifier & kFunctionNumberMask);
     if (!host) return dispatchCall(ctx, number, args, count);
     // Without a host callback a host function answers 0.
-    return ctx.hostCallback ? ctx.hostCallback(number, args, count, ctx.callbackValue) : 0;
+    if (!ctx.hostCallback) return 0;
+    return ctx.hostCallback(number, reinterpret_cast<::MX_VALUE **>(args), count, ctx.callbackValue);
 }
 
 }  // namespace
@@ -116,11 +153,14 @@ const FunctionRow *fnSearch(const FunctionRow *rows, int32_t count, const char16
 }
 
 const FunctionRow *fnLookup(RunContext &ctx, const char16_t *name, bool *host) {
-    if (const FunctionRow *row = fnSearch(ctx.hostTable, ctx.hostCount, name)) {
-        *host = true;
-        return row;
+    if (ctx.hostCount && mayBeRow(gHostInitials.of(ctx.hostTable, ctx.hostCount), name)) {
+        if (const FunctionRow *row = fnSearch(ctx.hostTable, ctx.hostCount, name)) {
+            *host = true;
+            return row;
+        }
     }
     *host = false;
+    if (!mayBeRow(gBuiltinInitials.of(ctx.builtinTable, ctx.builtinCount), name)) return nullptr;
     return fnSearch(ctx.builtinTable, ctx.builtinCount, name);
 }
 
@@ -154,6 +194,10 @@ Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p) 
         return nullptr;
     }
     int32_t result = invoke(ctx, row, host, args, count);
+    if (ctx.errorCode == kErrNoMemory) {
+        valReleaseArray(args, count);
+        return nullptr;
+    }
     trFunctionCall(ctx, row->name, args, count, result);
     valReleaseArray(args, count);
     if (ctx.abortCallback && ctx.abortCallback() != 0) {
@@ -175,6 +219,7 @@ int32_t fnCheckHostTable(RunContext &ctx) {
         previous = row->name;
         ++ctx.hostCount;
     }
+    gHostInitials.refresh(ctx.hostTable, ctx.hostCount);
     return 0;
 }
 

@@ -6,6 +6,7 @@
 #include "engine/errors.h"
 #include "engine/reader.h"
 #include "base/u16.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -21,10 +22,10 @@ char16_t unescape(int32_t c) {
         default: return 0;
     }
 }
-}  // namespace
 
-char16_t *fmCollect(RunContext &ctx, const char16_t *start) {
-    char16_t buf[kFormulaCapacity];
+// Collects the formula into buf (kFormulaCapacity units). Returns its length,
+// or -1 with the error set.
+int32_t collectInto(RunContext &ctx, const char16_t *start, char16_t *buf) {
     int32_t n = u16Copy(buf, kFormulaCapacity, start);
     bool inText = false;
     int32_t brackets = 0;
@@ -32,11 +33,11 @@ char16_t *fmCollect(RunContext &ctx, const char16_t *start) {
         int32_t c = rdChar(ctx, 0);
         if (c == kEndOfText) {
             errSet(ctx, kErrUnexpectedEnd, ctx.macroCommand);
-            return nullptr;
+            return -1;
         }
         if (c == u'\n' && inText) {
             errSet(ctx, kErrStringEnd);
-            return nullptr;
+            return -1;
         }
         if (c < 32) continue;
         if (c == u'"') {
@@ -58,18 +59,58 @@ char16_t *fmCollect(RunContext &ctx, const char16_t *start) {
         }
         if (n >= kFormulaCapacity - 1) {
             errSet(ctx, kErrFormulaTooLong, ctx.macroCommand);
-            return nullptr;
+            return -1;
         }
         buf[n++] = char16_t(c);
     }
     buf[n] = 0;
-    auto *copy = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(n + 1)));
+    return n;
+}
+
+}  // namespace
+
+char16_t *fmCollect(RunContext &ctx, const char16_t *start) {
+    char16_t buf[kFormulaCapacity];
+    int32_t n = collectInto(ctx, start, buf);
+    if (n < 0) return nullptr;
+    auto *copy = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(n + 1)));
     if (!copy) {
         errSet(ctx, kErrNoMemory);
         return nullptr;
     }
     std::memcpy(copy, buf, sizeof(char16_t) * size_t(n + 1));
     return copy;
+}
+
+namespace {
+// Formula buffers kept for reuse. A statement holds one while its formula is
+// evaluated, and a nested run's statements take further ones, so the list is
+// as deep as the nesting has been (at most kSpareBuffers are kept).
+constexpr int32_t kSpareBuffers = 16;
+char16_t *gSpareBuffers[kSpareBuffers];
+int32_t gSpareBufferCount = 0;
+}  // namespace
+
+char16_t *fmCollectInBuffer(RunContext &ctx, const char16_t *start) {
+    char16_t *buf = gSpareBufferCount ? gSpareBuffers[--gSpareBufferCount]
+                                      : static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * kFormulaCapacity));
+    if (!buf) {
+        errSet(ctx, kErrNoMemory);
+        return nullptr;
+    }
+    if (collectInto(ctx, start, buf) >= 0) return buf;
+    fmReleaseBuffer(buf);
+    return nullptr;
+}
+
+void fmReleaseBuffer(char16_t *formula) {
+    if (!formula) return;
+    if (gSpareBufferCount < kSpareBuffers) gSpareBuffers[gSpareBufferCount++] = formula;
+    else std::free(formula);
+}
+
+void fmReleaseSpareBuffers() {
+    while (gSpareBufferCount) std::free(gSpareBuffers[--gSpareBufferCount]);
 }
 
 }  // namespace mx

@@ -20,4 +20,16 @@ constexpr char16_t kEscapedQuote = 1;
 // 116). The character that ended the formula is left unread.
 char16_t *fmCollect(RunContext &ctx, const char16_t *start);
 
+// Collects as fmCollect does, into a formula buffer of kFormulaCapacity
+// units that is reused from one statement to the next instead of a new copy
+// of each formula. Returns the buffer, which the caller hands back with
+// fmReleaseBuffer, or absent with the error set.
+char16_t *fmCollectInBuffer(RunContext &ctx, const char16_t *start);
+
+// Takes a buffer of fmCollectInBuffer back for reuse. Absent is harmless.
+void fmReleaseBuffer(char16_t *formula);
+
+// Frees the buffers kept for reuse; called when the library is detached.
+void fmReleaseSpareBuffers();
+
 }  // namespace mx

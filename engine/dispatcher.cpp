@@ -1,6 +1,9 @@
 #include "engine/dispatcher.h"
 
+#include <new>
+
 #include "engine/arg_reads.h"
+#include "engine/errors.h"
 #include "engine/function_numbers.h"
 
 namespace mx {
@@ -39,11 +42,17 @@ void dispatchInstall(const DispatchFamily *const *families, int32_t count) {
 int32_t dispatchCall(RunContext &ctx, int32_t number, Value **args, int32_t count) {
     const DispatchEntry *e = dispatchEntry(number);
     if (!e) return 0;
-    if constexpr (kCheckArgReads) {
-        ArgReadScope scope(number, e->reads, args, count);
+    // An exception must never unwind into the host's frames.
+    try {
+        if constexpr (kCheckArgReads) {
+            ArgReadScope scope(number, e->reads, args, count);
+            return e->handler(ctx, args, count);
+        }
         return e->handler(ctx, args, count);
+    } catch (const std::bad_alloc &) {
+        errSet(ctx, kErrNoMemory);
+        return 0;
     }
-    return e->handler(ctx, args, count);
 }
 
 const DispatchEntry *dispatchEntry(int32_t number) {

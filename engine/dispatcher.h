@@ -35,7 +35,9 @@ struct DispatchFamily {
 void dispatchInstall(const DispatchFamily *const *families, int32_t count);
 
 // Numbers 9000 and 9001 first, then 1 to 306. Returns the
-// implementation's result, 0 for a number without one.
+// implementation's result, 0 for a number without one. Memory that runs out
+// inside an implementation (std::bad_alloc) sets error 116 and returns 0:
+// the caller sees the error code and fails the formula.
 int32_t dispatchCall(RunContext &ctx, int32_t number, Value **args, int32_t count);
 
 // The installed entry of number; absent when no family implements it.

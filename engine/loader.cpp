@@ -7,6 +7,7 @@
 #include "base/u16.h"
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -79,7 +80,7 @@ struct Normaliser {
 };
 
 bool allocate(RunContext &ctx, int32_t capacity) {
-    ctx.text = static_cast<char16_t *>(std::calloc(size_t(capacity), sizeof(char16_t)));
+    ctx.text = static_cast<char16_t *>(heapCalloc(size_t(capacity), sizeof(char16_t)));
     if (!ctx.text) {
         errSet(ctx, kErrNoMemory);
         return false;
@@ -111,15 +112,15 @@ int32_t loadFile(RunContext &ctx) {
         return -1;
     }
     Normaliser n{.out = ctx.text, .len = ctx.length};
-    for (;;) {
+    // The limit is checked before each byte, so a text that reaches it with
+    // its last byte still loads (the end needs at most two more units).
+    for (int32_t c; (c = mxp_FileGetChar(f)) >= 0;) {
         if (ctx.length >= ctx.capacity - 10) {
             mxp_FileClose(f);
             ldRelease(ctx);
             errSet(ctx, kErrTooLarge, path);
             return -1;
         }
-        int32_t c = mxp_FileGetChar(f);
-        if (c < 0) break;
         n.feed(char16_t(c));
     }
     n.finish();

@@ -7,6 +7,7 @@
 #include "engine/collect.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
+#include "engine/reader.h"
 #include "base/u16.h"
 #include "engine/value.h"
 #include "engine/variables.h"
@@ -111,7 +112,14 @@ Value *readVariable(RunContext &ctx, char16_t *&p, const char16_t *name) {
     return ref;
 }
 
-bool isTokenChar(char16_t c) { return c == u'_' || c == u'.' || mxp_IsAlphaNumeric(c); }
+// Letters, digits, '_' and '.'; codes below 128 are told without asking the
+// platform, whose letter test agrees with the ASCII letters there.
+bool isTokenChar(char16_t c) { return c == u'.' || rdIsIdentChar(c); }
+
+bool isNameStart(char16_t c) {
+    if (c < 0x80) return c == u'_' || (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+    return mxp_IsAlpha(c);
+}
 
 }  // namespace
 
@@ -126,7 +134,7 @@ Value *opReadOperand(RunContext &ctx, char16_t *&p) {
     bool isNumber = false;
     Value *number = readNumber(ctx, token, len, &isNumber);
     if (isNumber) return number;
-    if (len == 0 || (token[0] != u'_' && !mxp_IsAlpha(token[0]))) {
+    if (len == 0 || !isNameStart(token[0])) {
         errSet(ctx, kErrBadOperand, p);
         return nullptr;
     }

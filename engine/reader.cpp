@@ -21,17 +21,6 @@ constexpr KeywordRow kKeywords[] = {
 static_assert(sizeof(kKeywords) / sizeof(kKeywords[0]) == kKwStatic);
 }  // namespace
 
-int32_t rdChar(RunContext &ctx, uint32_t flags) {
-    for (;;) {
-        if (!ctx.text || ctx.pos >= ctx.length) return kEndOfText;
-        char16_t c = ctx.text[ctx.pos++];
-        if (c == u'\n') ++ctx.line;
-        if (c < 32 && (flags & kSkipControl)) continue;
-        if (c == 32 && (flags & kSkipBlanks)) continue;
-        return c;
-    }
-}
-
 void rdUnread(RunContext &ctx, int32_t c) {
     if (c == kEndOfText || ctx.pos == 0) return;
     --ctx.pos;
@@ -81,8 +70,12 @@ int32_t rdQuoted(RunContext &ctx, char16_t *buf, int32_t capacity) {
 int32_t rdKeyword(const char16_t *word) {
     // Every keyword starts with a lower-case letter; most words are names.
     if (!word || word[0] < u'a' || word[0] > u'z') return kKwNone;
-    for (int32_t i = 0; i < kKwStatic; ++i)
-        if (u16Eq(word, kKeywords[i].english) || u16Eq(word, kKeywords[i].german)) return i + 1;
+    // Only spellings that share the first character are compared in full.
+    for (int32_t i = 0; i < kKwStatic; ++i) {
+        const KeywordRow &k = kKeywords[i];
+        if ((k.english[0] == word[0] && u16Eq(word, k.english)) || (k.german[0] == word[0] && u16Eq(word, k.german)))
+            return i + 1;
+    }
     return kKwNone;
 }
 

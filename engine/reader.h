@@ -30,7 +30,17 @@ enum Keyword : int32_t {
 
 // The next character (advancing, counting line feeds), skipping characters
 // below 32 with kSkipControl and blanks with kSkipBlanks; -1 at the end.
-int32_t rdChar(RunContext &ctx, uint32_t flags);
+// Inline: every character of every statement passes through here.
+inline int32_t rdChar(RunContext &ctx, uint32_t flags) {
+    for (;;) {
+        if (!ctx.text || ctx.pos >= ctx.length) return kEndOfText;
+        char16_t c = ctx.text[ctx.pos++];
+        if (c == u'\n') ++ctx.line;
+        if (c < 32 && (flags & kSkipControl)) continue;
+        if (c == 32 && (flags & kSkipBlanks)) continue;
+        return c;
+    }
+}
 
 // Steps back over c, the character just read; nothing for -1 or at position 0.
 void rdUnread(RunContext &ctx, int32_t c);

@@ -1,5 +1,7 @@
 #include "engine/run_driver.h"
 
+#include <new>
+
 #include "engine/call.h"
 #include "engine/errors.h"
 #include "engine/loader.h"
@@ -59,8 +61,16 @@ int32_t checkHeader(RunContext &ctx) {
 int32_t runDriver(RunContext &ctx) {
     resetRunState(ctx);
     if (fnCheckHostTable(ctx) < 0) return -1;
-    if (ldLoad(ctx) < 0) return -1;
-    int32_t result = checkHeader(ctx) < 0 ? kStError : stExecute(ctx, Mode::kRun);
+    int32_t result = kStError;
+    // Built-ins turn exhausted memory into error 116 themselves; this catches
+    // what the platform layer may throw outside them (opening the macro file,
+    // writing the trace), so that no exception reaches the host.
+    try {
+        if (ldLoad(ctx) == 0) result = checkHeader(ctx) < 0 ? kStError : stExecute(ctx, Mode::kRun);
+    } catch (const std::bad_alloc &) {
+        errSet(ctx, kErrNoMemory);
+        result = kStError;
+    }
     cleanUp(ctx);
     if (result == kStError) return -1;
     ctx.errorCode = 0;

@@ -1,7 +1,5 @@
 #include "engine/statements.h"
 
-#include <cstdlib>
-
 #include "engine/collect.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
@@ -27,7 +25,7 @@ bool expect(RunContext &ctx, char16_t c, const char16_t *shown) {
 // Returns 1 true, 0 false, -1 error. Skip mode reads it and gives false.
 int32_t condition(RunContext &ctx, Mode mode) {
     if (!expect(ctx, u'(', u"(")) return -1;
-    char16_t *formula = fmCollect(ctx, nullptr);
+    char16_t *formula = fmCollectInBuffer(ctx, nullptr);
     if (!formula) return -1;
     int32_t result = -1;
     if (!expect(ctx, u')', u")")) {
@@ -38,13 +36,13 @@ int32_t condition(RunContext &ctx, Mode mode) {
         else result = valToLong(v) != 0;
         valRelease(v);
     }
-    std::free(formula);
+    fmReleaseBuffer(formula);
     return result;
 }
 
 // formula-statement := formula ';'
 int32_t formulaStatement(RunContext &ctx, const char16_t *word, Mode mode) {
-    char16_t *formula = fmCollect(ctx, word);
+    char16_t *formula = fmCollectInBuffer(ctx, word);
     if (!formula) return kStError;
     int32_t result = kStError;
     if (!expect(ctx, u';', u";")) {
@@ -54,7 +52,7 @@ int32_t formulaStatement(RunContext &ctx, const char16_t *word, Mode mode) {
         valRelease(v);
         result = kStNormal;
     }
-    std::free(formula);
+    fmReleaseBuffer(formula);
     return result;
 }
 

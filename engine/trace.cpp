@@ -20,15 +20,17 @@ void fixed(TextOut &o, double v) {
     if (r.ec == std::errc()) o.ascii(tmp, r.ptr);
 }
 
-void shownText(TextOut &o, const char16_t *s) {
+// The text of a vector of capacity units: it ends at its first zero or at
+// its capacity, whichever comes first.
+void shownText(TextOut &o, const char16_t *s, int32_t capacity) {
     char16_t shown[kShownTextLimit + 1];
     TextOut t(shown, kShownTextLimit + 1);
-    for (; s && *s; ++s) {
-        switch (*s) {
+    for (int32_t i = 0; s && i < capacity && s[i]; ++i) {
+        switch (s[i]) {
             case u'\t': t.put(u'\\'); t.put(u't'); break;
             case u'\n': t.put(u'\\'); t.put(u'n'); break;
             case u'\r': t.put(u'\\'); t.put(u'r'); break;
-            default: t.put(*s);
+            default: t.put(s[i]);
         }
     }
     o.put(u'"');
@@ -50,7 +52,7 @@ int32_t trFormatValue(const Value *v, char16_t *buf, int32_t capacity) {
     if (!v || !v->data) return 0;
     switch (v->type) {
         case kChar:
-            if (v->count) shownText(o, static_cast<const char16_t *>(v->data));
+            if (v->count) shownText(o, static_cast<const char16_t *>(v->data), v->count);
             else o.put(*static_cast<const char16_t *>(v->data));
             break;
         case kLong:

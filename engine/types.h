@@ -7,7 +7,17 @@
 
 #include "base/handles.h"
 
+// The public Value record of include/morvix.h, only named here.
+struct MX_VALUE;
+
 namespace mx {
+
+// The public header's LONG: long on Windows, a 32-bit int elsewhere.
+#ifdef _WIN32
+using HostLong = long;
+#else
+using HostLong = int32_t;
+#endif
 
 enum ValueKind : int32_t { kReference = 1, kOwning = 2 };
 enum ValueType : int32_t { kChar = 1, kLong = 2, kDouble = 3 };
@@ -31,9 +41,13 @@ struct FunctionRow {
     const char16_t *paramNames;  // for hosts only; never read by the interpreter
 };
 
-using HostCallback = int32_t(MX_CALLCONV *)(int32_t number, Value **args, int32_t count,
-                                            intptr_t callbackValue);
-using AbortCallback = int32_t(MX_CALLCONV *)();
+// The host's callback exactly as the public header declares it: it receives
+// the public MX_VALUE records (the layout of Value) and is called through
+// this type only, never through one naming Value, which would be undefined
+// behaviour.
+using HostCallback = HostLong(MX_CALLCONV *)(HostLong number, ::MX_VALUE **args, HostLong count,
+                                             intptr_t callbackValue);
+using AbortCallback = HostLong(MX_CALLCONV *)();
 
 // Identifier bits: the function number and the German-spelling flag.
 constexpr uint32_t kFunctionNumberMask = 0xFFFF;

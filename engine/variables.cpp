@@ -6,6 +6,7 @@
 #include "base/u16.h"
 #include "engine/value.h"
 #include "engine/process_state.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -23,8 +24,8 @@ Variable *varLookup(RunContext &ctx, const char16_t *name) {
 Variable *varAppend(RunContext &ctx, Variable **list, const char16_t *name, int32_t type,
                     int32_t count) {
     int32_t len = u16Len(name);
-    Variable *var = static_cast<Variable *>(std::calloc(1, sizeof(Variable)));
-    char16_t *copy = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(len + 1)));
+    Variable *var = static_cast<Variable *>(heapCalloc(1, sizeof(Variable)));
+    char16_t *copy = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(len + 1)));
     Value *value = nullptr;
     if (var && copy) value = valCreate(ctx, type, kOwning, count);
     if (!value) {

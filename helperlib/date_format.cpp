@@ -4,6 +4,7 @@
 #include "base/text_out.h"
 #include "base/u16.h"
 #include "helperlib/kelvane_date.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -59,7 +60,7 @@ int32_t DateTimeStruct_To_FormattedDateW(const KelvaneDateTime *rec, const char1
     if (!dst || capacity < 1) return 0;
     if (!format || !format[0]) format = kDefaultDateFormat;
     // The text is made apart and copied at the end: dst may be the format.
-    auto *work = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(capacity)));
+    auto *work = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(capacity)));
     if (!work || !rec) {
         std::free(work);
         dst[0] = 0;

@@ -1,9 +1,13 @@
 #include <cstdlib>
+#include <string>
+#include <vector>
 
 #include "base/u16.h"
+#include "base/u16_find.h"
 #include "helperlib/kelvane_strings.h"
 #include "platform/casemap.h"
 #include "platform/platform.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -18,7 +22,7 @@ struct Pattern {
 
     bool make(const char16_t *text, bool literal) {
         int32_t n = u16Len(text);
-        s = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(n + 1)));
+        s = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(n + 1)));
         if (!s) return false;
         for (int32_t i = 0; i < n; ++i) {
             char16_t c = text[i];
@@ -36,12 +40,23 @@ struct Pattern {
 
 bool wordUnit(char16_t c) { return c == u'_' || mxp_IsAlphaNumeric(c); }
 
-bool matchAt(const char16_t *text, int32_t len, int32_t at, const Pattern &find, int32_t mode) {
-    if (at + find.len > len) return false;
-    for (int32_t k = 0; k < find.len; ++k) {
-        char16_t a = text[at + k], b = find.s[k];
-        if (a != b && !((mode & kReplaceIgnoreCase) && mxp_CharLower(a) == mxp_CharLower(b))) return false;
+// Marks where find occurs in the text, in one linear pass; with
+// kReplaceIgnoreCase both are compared in lower case.
+void markMatches(const char16_t *text, int32_t len, const Pattern &find, int32_t mode,
+                 std::vector<bool> &starts) {
+    if (!(mode & kReplaceIgnoreCase)) {
+        U16Finder(find.s, find.len).markAll(text, len, starts);
+        return;
     }
+    std::u16string a(text, size_t(len)), b(find.s, size_t(find.len));
+    for (char16_t &c : a) c = mxp_CharLower(c);
+    for (char16_t &c : b) c = mxp_CharLower(c);
+    U16Finder(b.data(), find.len).markAll(a.data(), len, starts);
+}
+
+bool matchAt(const std::vector<bool> &starts, const char16_t *text, int32_t len, int32_t at,
+             const Pattern &find, int32_t mode) {
+    if (!starts[size_t(at)]) return false;
     if (!(mode & kReplaceWholeWords)) return true;
     bool before = at > 0 && wordUnit(text[at - 1]);
     bool after = at + find.len < len && wordUnit(text[at + find.len]);
@@ -58,7 +73,10 @@ int32_t Kelvane_ReplaceStringW(char16_t *text, int32_t capacity, const char16_t 
     if (f.len == 0) return 0;
     int32_t len = 0;
     while (len < capacity && text[len]) ++len;
-    auto *out = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(capacity)));
+    // Before the output block: the marks may run out of memory (thrown).
+    std::vector<bool> starts;
+    markMatches(text, len, f, mode, starts);
+    auto *out = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(capacity)));
     if (!out) return -1;
     int32_t n = 0, count = 0;
     bool cut = false;
@@ -67,7 +85,7 @@ int32_t Kelvane_ReplaceStringW(char16_t *text, int32_t capacity, const char16_t 
         else cut = true;
     };
     for (int32_t i = 0; i < len;) {
-        if ((count == 0 || (mode & kReplaceAll)) && matchAt(text, len, i, f, mode)) {
+        if ((count == 0 || (mode & kReplaceAll)) && matchAt(starts, text, len, i, f, mode)) {
             for (int32_t k = 0; k < r.len; ++k) put(r.s[k]);
             i += f.len;
             ++count;

@@ -1,7 +1,9 @@
 #include "interface/attach.h"
 
 #include "dde/dde_attach.h"
+#include "engine/collect.h"
 #include "engine/process_state.h"
+#include "engine/value_spare.h"
 #include "engine/variables.h"
 #include "interface/families.h"
 #include "odbc/odbc_attach.h"
@@ -22,6 +24,8 @@ bool processAttach(ModuleHandle module) {
 void processDetach() {
     varReleaseList(gProcess.statics);
     gProcess.statics = nullptr;
+    valReleaseSpare();
+    fmReleaseSpareBuffers();
     ddeDetach(gProcess.module);
 }
 

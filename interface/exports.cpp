@@ -2,6 +2,8 @@
 // which is a 16-bit unit on every build; the core works on char16_t.
 #include "morvix.h"
 
+#include <new>
+
 #include "builtins/table.h"
 #include "helperlib/kelvane_text.h"
 #include "helperlib/kelvane_version.h"
@@ -23,7 +25,13 @@ mx::AbortCallback core(MX_ABORT_CALLBACK cb) { return reinterpret_cast<mx::Abort
 LONG run(const mx::RunRequest &request) {
     mx::RunContext ctx;
     mx::entryInit(ctx, request);
-    return mx::entryRun(ctx);
+    // The run itself turns exhausted memory into error 116; showing that
+    // error may itself run out of memory, and no exception may reach the host.
+    try {
+        return mx::entryRun(ctx);
+    } catch (const std::bad_alloc &) {
+        return -1;
+    }
 }
 
 #ifndef _WIN32

@@ -1,6 +1,7 @@
 // The core's Value and function row must be the public MX_VALUE and
 // MX_FUNCTION_ROW bit for bit: hosts read them through the public header.
 #include <cstddef>
+#include <type_traits>
 
 #include "desktop/host_requests.h"
 #include "engine/types.h"
@@ -67,4 +68,12 @@ static_assert(offsetof(MX_BUTTON_REQUEST, kind) == 20 && offsetof(MX_BUTTON_REQU
               offsetof(MX_BUTTON_REQUEST, reserved) == 32 && sizeof(MX_BUTTON_REQUEST) == 40);
 static_assert(offsetof(MX_COMMANDLINE_REQUEST, capacity) == 4 &&
               offsetof(MX_COMMANDLINE_REQUEST, buffer) == 8 && sizeof(MX_COMMANDLINE_REQUEST) == 16);
+#endif
+
+#ifndef _WIN32
+// The callbacks are called through the host's own function types: calling a
+// function through another type is undefined behaviour, whatever the layout.
+// (On Windows LONG is long and the types differ in name only.)
+static_assert(std::is_same_v<mx::HostCallback, MX_HOST_CALLBACK>);
+static_assert(std::is_same_v<mx::AbortCallback, MX_ABORT_CALLBACK>);
 #endif

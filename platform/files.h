@@ -40,13 +40,17 @@ enum class OpenError { kNone, kNotFound, kAccessDenied, kExists, kTooManyOpen, k
 // locks); other programs are not held back.
 enum class Share { kDenyNone, kDenyWrite, kDenyReadWrite };
 
-// Opens path with a mode text and the given sharing. A "w" mode empties the
+// Opens path with a mode text and the given sharing. Only regular files open:
+// a directory, FIFO, device or socket fails with kAccessDenied (without
+// waiting for a FIFO's peer and before anything is truncated). A "w" mode empties the
 // file only after the sharing check has passed. Returns the stream, or absent
 // with *why set (an invalid mode or an empty path: kOther and kNotFound).
 MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, OpenError *why);
 
-// Flushes and closes the stream; absent is harmless.
-void mxp_FileClose(MxpFile *file);
+// Flushes and closes the stream. Returns 0, or -1 when a write, the flush or
+// the close failed at any time since the open (a full disk shows here even
+// when the single writes only queued their bytes); absent gives 0.
+int32_t mxp_FileClose(MxpFile *file);
 
 // Length of the open file in bytes, or -1.
 int64_t mxp_FileLength(MxpFile *file);
@@ -116,7 +120,8 @@ int32_t mxp_CreateUniqueFile(const char16_t *dir, const char16_t *prefix, char16
 // data goes to a temporary file beside it that is then renamed over path, so
 // readers see either the old or the new file. Returns false on failure
 // (path unchanged). Fails while path is open through a stream that denies
-// writing.
+// writing. A symbolic link is followed and its target replaced (the link
+// stays); a dangling link, a device, a FIFO or a directory is refused.
 bool mxp_FileReplace(const char16_t *path, const void *data, size_t size);
 
 }  // namespace mx

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "xml/xml_codes.h"
+#include "base/heap.h"
 
 namespace mx::xml {
 
@@ -14,7 +15,7 @@ int64_t allocationsLeft = -1;  // negative: no failures
 void *xmlAlloc(size_t bytes) {
     if (allocationsLeft == 0) return nullptr;
     if (allocationsLeft > 0) --allocationsLeft;
-    return std::calloc(1, bytes ? bytes : 1);
+    return heapCalloc(1, bytes ? bytes : 1);
 }
 
 void xmlFree(void *p) { std::free(p); }

@@ -12,26 +12,8 @@ namespace mx {
 
 namespace {
 
-// The text of a C[] argument, terminated: a vector filled up to its last
-// element without a terminator is copied into holder first. Absent when
-// that copy cannot be made.
-const char16_t *textArg(Value *v, std::u16string &holder) {
-    const char16_t *text = argText(v);
-    int32_t capacity = argCapacity(v);
-    if (!text) return nullptr;
-    for (int32_t i = 0; i < capacity; ++i)
-        if (!text[i]) return text;
-    try {
-        holder.assign(text, size_t(capacity > 0 ? capacity : 0));
-    } catch (const std::bad_alloc &) {
-        return nullptr;
-    }
-    return holder.c_str();
-}
-
 int32_t biXMLCreate(RunContext &, Value **args, int32_t) {
-    std::u16string a, b;
-    return xml::xmlCreate(textArg(args[0], a), textArg(args[1], b));
+    return xml::xmlCreate(ArgTextZ(args[0]).get(), ArgTextZ(args[1]).get());
 }
 
 int32_t biXMLDelete(RunContext &, Value **args, int32_t) { return xml::xmlDelete(argLong(args[0])); }
@@ -39,18 +21,15 @@ int32_t biXMLDelete(RunContext &, Value **args, int32_t) { return xml::xmlDelete
 int32_t biXMLGetRoot(RunContext &, Value **args, int32_t) { return xml::xmlGetRoot(argLong(args[0])); }
 
 int32_t biXMLAddChild(RunContext &, Value **args, int32_t) {
-    std::u16string a, b;
-    return xml::xmlAddChild(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
+    return xml::xmlAddChild(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
 }
 
 int32_t biXMLSetAttr(RunContext &, Value **args, int32_t) {
-    std::u16string a, b;
-    return xml::xmlSetAttr(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
+    return xml::xmlSetAttr(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
 }
 
 int32_t biXMLWriteFile(RunContext &, Value **args, int32_t) {
-    std::u16string a;
-    return xml::xmlWriteFile(argLong(args[0]), textArg(args[1], a), argLong(args[2]));
+    return xml::xmlWriteFile(argLong(args[0]), ArgTextZ(args[1]).get(), argLong(args[2]));
 }
 
 const DispatchEntry kEntries[] = {

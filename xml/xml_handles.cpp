@@ -112,4 +112,9 @@ XmlDocument *xmlHandleRemoveDocument(int32_t handle) {
 
 int64_t xmlHandleCount() { return int64_t(table().entries.size()); }
 
+int32_t xmlHandleAnyDocument() {
+    const HandleTable &t = table();
+    return t.documents.empty() ? 0 : t.documents.begin()->first;
+}
+
 }  // namespace mx::xml

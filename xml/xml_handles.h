@@ -40,4 +40,8 @@ XmlDocument *xmlHandleRemoveDocument(int32_t handle);
 // Number of live handles (documents and nodes), for tests.
 int64_t xmlHandleCount();
 
+// The handle of some live document, 0 when there is none; for tests and
+// fuzzing, which delete every document between inputs.
+int32_t xmlHandleAnyDocument();
+
 }  // namespace mx::xml

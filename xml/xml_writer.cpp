@@ -186,7 +186,9 @@ int32_t WriteDocument(const XmlDocument *document, const char16_t *fileName, int
         putText(file, "\"?>\r\n");
     }
     int32_t code = document->root ? WriteElement(document, file, document->root, 0, flags) : XMLERR_OK;
-    mxp_FileClose(file);
+    // The stream remembers any failed write; the close reports it with its
+    // own failure (a full disk, a quota), so nothing is lost silently.
+    if (mxp_FileClose(file) != 0 && code == XMLERR_OK) code = XMLERR_FILE;
     return code;
 }
 

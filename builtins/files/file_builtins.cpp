@@ -3,7 +3,6 @@
 #include "engine/args.h"
 #include "engine/function_numbers.h"
 #include "builtins/families.h"
-#include "builtins/files/file_args.h"
 #include "builtins/files/file_lists.h"
 #include "builtins/files/file_ops.h"
 #include "builtins/files/modules.h"
@@ -22,7 +21,7 @@ using A = Value **;
 
 // 2 OpenFile C[]C[]
 int32_t biOpenFile(RunContext &ctx, A a, int32_t) {
-    return fsOpenFile(ctx, faText(a[0]).c_str(), faText(a[1]).c_str());
+    return fsOpenFile(ctx, argString(a[0]).c_str(), argString(a[1]).c_str());
 }
 // 3 CloseFile L
 int32_t biCloseFile(RunContext &ctx, A a, int32_t) { return fsCloseFile(ctx, argLong(a[0])); }
@@ -32,23 +31,23 @@ int32_t biReadFile(RunContext &ctx, A a, int32_t) {
 }
 // 5 WriteFile LC[]
 int32_t biWriteFile(RunContext &ctx, A a, int32_t) {
-    return fsWriteFile(ctx, argLong(a[0]), faText(a[1]).c_str());
+    return fsWriteFile(ctx, argLong(a[0]), argString(a[1]).c_str());
 }
 // 1 CopyFile C[]C[]
 int32_t biCopyFile(RunContext &, A a, int32_t) {
-    return foCopyFile(faText(a[0]).c_str(), faText(a[1]).c_str());
+    return foCopyFile(argString(a[0]).c_str(), argString(a[1]).c_str());
 }
 // 6 RenameFile C[]C[]
 int32_t biRenameFile(RunContext &, A a, int32_t) {
-    return foRenameFile(faText(a[0]).c_str(), faText(a[1]).c_str());
+    return foRenameFile(argString(a[0]).c_str(), argString(a[1]).c_str());
 }
 // 7 DeleteFile C[]
-int32_t biDeleteFile(RunContext &, A a, int32_t) { return foDeleteFile(faText(a[0]).c_str()); }
+int32_t biDeleteFile(RunContext &, A a, int32_t) { return foDeleteFile(argString(a[0]).c_str()); }
 // 9 CreateDirectory C[]
-int32_t biCreateDirectory(RunContext &, A a, int32_t) { return foCreateDirectory(faText(a[0]).c_str()); }
+int32_t biCreateDirectory(RunContext &, A a, int32_t) { return foCreateDirectory(argString(a[0]).c_str()); }
 // 152 LoadFile C[]*C[]L
 int32_t biLoadFile(RunContext &, A a, int32_t) {
-    return foLoadFile(faText(a[0]).c_str(), argText(a[1]), argCapacity(a[1]), argLong(a[2]));
+    return foLoadFile(argString(a[0]).c_str(), argText(a[1]), argCapacity(a[1]), argLong(a[2]));
 }
 // 123 GetTempFileName *C[]
 int32_t biGetTempFileName(RunContext &, A a, int32_t) {
@@ -59,8 +58,8 @@ int32_t biGetTempFileName(RunContext &, A a, int32_t) {
 
 // 46 AssembleFilename *C[]C[]C[]C[]
 int32_t biAssembleFilename(RunContext &, A a, int32_t) {
-    return psAssembleFilename(argText(a[0]), argCapacity(a[0]), faText(a[1]).c_str(), faText(a[2]).c_str(),
-                              faText(a[3]).c_str());
+    return psAssembleFilename(argText(a[0]), argCapacity(a[0]), argString(a[1]).c_str(), argString(a[2]).c_str(),
+                              argString(a[3]).c_str());
 }
 // 47 StripExtension, 48 StripPath, 49 StripFilename *C[]
 int32_t biStripExtension(RunContext &, A a, int32_t) {
@@ -75,59 +74,59 @@ int32_t biStripFilename(RunContext &, A a, int32_t) {
 
 // 57 ReadProfile C[]C[]C[]*C[]
 int32_t biReadProfile(RunContext &ctx, A a, int32_t) {
-    return pfReadProfile(ctx.hostInstance, faText(a[0]).c_str(), faText(a[1]).c_str(), faText(a[2]).c_str(),
+    return pfReadProfile(ctx.hostInstance, argString(a[0]).c_str(), argString(a[1]).c_str(), argString(a[2]).c_str(),
                          argText(a[3]), argCapacity(a[3]));
 }
 // 58 WriteProfile C[]C[]C[]C[]
 int32_t biWriteProfile(RunContext &ctx, A a, int32_t) {
-    return pfWriteProfile(ctx.hostInstance, faText(a[0]).c_str(), faText(a[1]).c_str(), faText(a[2]).c_str(),
-                          faText(a[3]).c_str());
+    return pfWriteProfile(ctx.hostInstance, argString(a[0]).c_str(), argString(a[1]).c_str(), argString(a[2]).c_str(),
+                          argString(a[3]).c_str());
 }
 // 167 DeleteProfileItem C[]C[]C[]
 int32_t biDeleteProfileItem(RunContext &, A a, int32_t) {
-    return pfDeleteProfileItem(faText(a[0]).c_str(), faText(a[1]).c_str(), faText(a[2]).c_str());
+    return pfDeleteProfileItem(argString(a[0]).c_str(), argString(a[1]).c_str(), argString(a[2]).c_str());
 }
 // 168 DeleteProfileSection C[]C[]
 int32_t biDeleteProfileSection(RunContext &, A a, int32_t) {
-    return pfDeleteProfileSection(faText(a[0]).c_str(), faText(a[1]).c_str());
+    return pfDeleteProfileSection(argString(a[0]).c_str(), argString(a[1]).c_str());
 }
 
 // ---- registry --------------------------------------------------------------------
 
 // 105 ReadStringFromRegistry LC[]C[]C[]*C[]
 int32_t biReadStringFromRegistry(RunContext &, A a, int32_t) {
-    return rgReadString(argLong(a[0]), faText(a[1]).c_str(), faText(a[2]).c_str(), faText(a[3]).c_str(),
+    return rgReadString(argLong(a[0]), argString(a[1]).c_str(), argString(a[2]).c_str(), argString(a[3]).c_str(),
                         argText(a[4]), argCapacity(a[4]));
 }
 // 106 WriteStringToRegistry LC[]C[]C[]
 int32_t biWriteStringToRegistry(RunContext &, A a, int32_t) {
-    return rgWriteString(argLong(a[0]), faText(a[1]).c_str(), faText(a[2]).c_str(), faText(a[3]).c_str());
+    return rgWriteString(argLong(a[0]), argString(a[1]).c_str(), argString(a[2]).c_str(), argString(a[3]).c_str());
 }
 // 136 ReadIntFromRegistry LC[]C[]L
 int32_t biReadIntFromRegistry(RunContext &, A a, int32_t) {
-    return rgReadInt(argLong(a[0]), faText(a[1]).c_str(), faText(a[2]).c_str(), argLong(a[3]));
+    return rgReadInt(argLong(a[0]), argString(a[1]).c_str(), argString(a[2]).c_str(), argLong(a[3]));
 }
 // 137 WriteIntToRegistry LC[]C[]L
 int32_t biWriteIntToRegistry(RunContext &, A a, int32_t) {
-    return rgWriteInt(argLong(a[0]), faText(a[1]).c_str(), faText(a[2]).c_str(), argLong(a[3]));
+    return rgWriteInt(argLong(a[0]), argString(a[1]).c_str(), argString(a[2]).c_str(), argLong(a[3]));
 }
 // 162 ReadColorFromRegistry LC[]C[]*L*L*L
 int32_t biReadColorFromRegistry(RunContext &, A a, int32_t) {
-    return rgReadColor(argLong(a[0]), faText(a[1]).c_str(), faText(a[2]).c_str(), argLongRef(a[3]),
+    return rgReadColor(argLong(a[0]), argString(a[1]).c_str(), argString(a[2]).c_str(), argLongRef(a[3]),
                        argLongRef(a[4]), argLongRef(a[5]));
 }
 // 163 WriteColorToRegistry LC[]C[]LLL
 int32_t biWriteColorToRegistry(RunContext &, A a, int32_t) {
-    return rgWriteColor(argLong(a[0]), faText(a[1]).c_str(), faText(a[2]).c_str(), argLong(a[3]),
+    return rgWriteColor(argLong(a[0]), argString(a[1]).c_str(), argString(a[2]).c_str(), argLong(a[3]),
                         argLong(a[4]), argLong(a[5]));
 }
 // 169 DeleteRegistryItem LC[]C[]
 int32_t biDeleteRegistryItem(RunContext &, A a, int32_t) {
-    return rgDeleteItem(argLong(a[0]), faText(a[1]).c_str(), faText(a[2]).c_str());
+    return rgDeleteItem(argLong(a[0]), argString(a[1]).c_str(), argString(a[2]).c_str());
 }
 // 170 DeleteRegistryKey LC[]
 int32_t biDeleteRegistryKey(RunContext &, A a, int32_t) {
-    return rgDeleteKey(argLong(a[0]), faText(a[1]).c_str());
+    return rgDeleteKey(argLong(a[0]), argString(a[1]).c_str());
 }
 
 // ---- modules and directories -------------------------------------------------------
@@ -147,23 +146,23 @@ int32_t biGetCurrentPath(RunContext &, A a, int32_t) {
 }
 // 187 LongToShortFilename C[]*C[]
 int32_t biLongToShortFilename(RunContext &, A a, int32_t) {
-    return mdLongToShortFilename(faText(a[0]).c_str(), argText(a[1]), argCapacity(a[1]));
+    return mdLongToShortFilename(argString(a[0]).c_str(), argText(a[1]), argCapacity(a[1]));
 }
 // 147 GetModuleVersion C[]*C[]C[]
 int32_t biGetModuleVersion(RunContext &, A a, int32_t) {
-    return mdGetModuleVersion(faText(a[0]).c_str(), argText(a[1]), argCapacity(a[1]), faText(a[2]).c_str());
+    return mdGetModuleVersion(argString(a[0]).c_str(), argText(a[1]), argCapacity(a[1]), argString(a[2]).c_str());
 }
 
 // ---- file lists ----------------------------------------------------------------
 
 // 73 MakeFilelist C[]LC[]
 int32_t biMakeFilelist(RunContext &, A a, int32_t) {
-    return flMakeFilelist(faText(a[0]).c_str(), argLong(a[1]), faText(a[2]).c_str());
+    return flMakeFilelist(argString(a[0]).c_str(), argLong(a[1]), argString(a[2]).c_str());
 }
 // 112 ScanDirectory C[]C[]C[]C[]LL
 int32_t biScanDirectory(RunContext &, A a, int32_t) {
-    return flScanDirectory(faText(a[0]).c_str(), faText(a[1]).c_str(), faText(a[2]).c_str(),
-                           faText(a[3]).c_str(), argLong(a[4]), argLong(a[5]));
+    return flScanDirectory(argString(a[0]).c_str(), argString(a[1]).c_str(), argString(a[2]).c_str(),
+                           argString(a[3]).c_str(), argLong(a[4]), argLong(a[5]));
 }
 
 const DispatchEntry kEntries[] = {

@@ -29,8 +29,8 @@ int32_t foCopyFile(const char16_t *source, const char16_t *dest) {
         mxp_FileClose(from);
         return 1;
     }
-    bool ok = copyBlocks(from, to) && mxp_FileFlush(to) == 0;
-    mxp_FileClose(to);
+    bool ok = copyBlocks(from, to);
+    ok = mxp_FileClose(to) == 0 && ok;
     mxp_FileClose(from);
     return ok ? 0 : 1;
 }

@@ -18,19 +18,19 @@ int32_t biDim(RunContext &, Value **a, int32_t) { return a[0]->count > 0 ? a[0]-
 
 // IsDeclared(C[]): 1 when a static variable of that name exists.
 int32_t biIsDeclared(RunContext &, Value **a, int32_t) {
-    return varFind(gProcess.statics, argText(a[0])) ? 1 : 0;
+    return varFind(gProcess.statics, ArgTextZ(a[0]).get()) ? 1 : 0;
 }
 
 // Call(C[]).
-int32_t biCall(RunContext &ctx, Value **a, int32_t) { return lgCall(ctx, argText(a[0])); }
+int32_t biCall(RunContext &ctx, Value **a, int32_t) { return lgCall(ctx, ArgTextZ(a[0]).get()); }
 
-// CallWithParams(C[] x 6).
+// CallWithParams(C[] x 6). The command lives on the heap: a macro that calls
+// itself this way must reach the nesting limit before the host's stack ends.
 int32_t biCallWithParams(RunContext &ctx, Value **a, int32_t) {
-    const char16_t *parts[6];
-    for (int32_t i = 0; i < 6; ++i) parts[i] = argText(a[i]);
-    char16_t command[kCallWithParamsCapacity];
-    lgBuildCommand(parts, command, kCallWithParamsCapacity);
-    return lgCall(ctx, command);
+    std::u16string parts[6];
+    for (int32_t i = 0; i < 6; ++i) parts[i] = argString(a[i]);
+    std::u16string command = lgBuildCommand(parts);
+    return lgCall(ctx, command.c_str());
 }
 
 // GetMacroParameter(L, *C[]).
@@ -54,7 +54,7 @@ int32_t biTraceFunction(RunContext &ctx, Value **a, int32_t) {
 int32_t biTraceAssign(RunContext &ctx, Value **a, int32_t) {
     return lgTraceSwitch(ctx, kTraceAssignToFile, argLong(a[0]));
 }
-int32_t biTraceFile(RunContext &ctx, Value **a, int32_t) { return lgTraceFile(ctx, argText(a[0])); }
+int32_t biTraceFile(RunContext &ctx, Value **a, int32_t) { return lgTraceFile(ctx, ArgTextZ(a[0]).get()); }
 
 const DispatchEntry kEntries[] = {
     {fnum::Dim, u"X", biDim},

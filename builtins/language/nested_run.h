@@ -1,6 +1,7 @@
 // Nested macro runs: Call and CallWithParams, and the macro's parameters.
 #pragma once
 #include <cstdint>
+#include <string>
 
 #include "engine/run_context.h"
 
@@ -12,8 +13,9 @@ constexpr int32_t kCallWithParamsCapacity = 2000;  // the command is cut at 1999
 // Returns 0 when it ran to its end; -1 after showing its error box.
 int32_t lgCall(RunContext &ctx, const char16_t *command);
 
-// Builds "macro" "p1" ... "p5" (cut at 1999 units) into buf.
-void lgBuildCommand(const char16_t *const parts[6], char16_t *buf, int32_t capacity);
+// The command "macro" "p1" ... "p5", cut at 1999 units. May throw
+// std::bad_alloc.
+std::u16string lgBuildCommand(const std::u16string parts[6]);
 
 // Word n of the run's macro command into the text variable. Returns 0 when
 // the word exists, 1 when it does not or the run has no macro command; a

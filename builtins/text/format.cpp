@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "builtins/numbers/conversions.h"
+#include "base/heap.h"
 
 namespace mx {
 
@@ -289,7 +290,7 @@ struct Snapshot {
             any = any || overlaps(inputs[i], dst, cap);
         }
         if (!any) return;
-        block = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * size_t(total)));
+        block = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(total)));
         if (!block) return void(ok = false);
         char16_t *at = block;
         for (int32_t i = 0; i < n; ++i) {

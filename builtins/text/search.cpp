@@ -1,19 +1,16 @@
 #include "builtins/text/search.h"
 
 #include "base/u16.h"
+#include "base/u16_find.h"
 
 namespace mx {
 
 namespace {
-// Index of the first occurrence of find in s, or -1.
+// Index of the first occurrence of find in s, or -1 (linear in both).
 int32_t firstIndex(TextIn s, TextIn find) {
     int32_t n = txtLen(s), m = txtLen(find);
-    for (int32_t i = 0; i + m <= n; ++i) {
-        int32_t k = 0;
-        while (k < m && s.s[i + k] == find.s[k]) ++k;
-        if (k == m) return i;
-    }
-    return -1;
+    if (m > n) return -1;
+    return U16Finder(find.s, m).find(s.s, n);
 }
 }  // namespace
 

@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "base/heap.h"
+
 namespace mx {
 
 struct TextIn {
@@ -67,7 +69,7 @@ public:
             text_ = t.s;
             return;
         }
-        copy_ = static_cast<char16_t *>(std::malloc(sizeof(char16_t) * (size_t(n) + 1)));
+        copy_ = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * (size_t(n) + 1)));
         if (!copy_) return;
         txtMove(copy_, t.s, n);
         copy_[n] = 0;

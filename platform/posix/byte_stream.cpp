@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <new>
 #include <cstring>
 
 namespace mx {
@@ -50,7 +51,14 @@ int64_t ByteStream::read(void *buf, size_t size) {
 }
 
 bool ByteStream::put(const void *data, size_t size) {
-    out_.append(static_cast<const char *>(data), size);
+    // A queue that cannot grow is a failed write like any other: it is
+    // reported through the result and the close, never thrown.
+    try {
+        out_.append(static_cast<const char *>(data), size);
+    } catch (const std::bad_alloc &) {
+        failed = true;
+        return false;
+    }
     return out_.size() < kSize || flush();
 }
 

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <new>
 
 #include "base/byte_order_mark.h"
 #include "base/utf8.h"
@@ -37,7 +38,9 @@ OpenError fromErrno(int e) {
 // Opens the descriptor; write-only modes ask for reading too, so that the
 // sharing records (read locks) can be placed. Returns -1 with errno set.
 int openDescriptor(const std::string &name, const FileMode &m, bool *readable) {
-    int flags = O_CLOEXEC | (m.create ? O_CREAT : 0) | (m.append ? O_APPEND : 0);
+    // Non-blocking: opening a FIFO must not wait for a peer (it is refused
+    // right after, like every file that is not a regular one).
+    int flags = O_CLOEXEC | O_NONBLOCK | (m.create ? O_CREAT : 0) | (m.append ? O_APPEND : 0);
     int fd = open(name.c_str(), flags | (m.write ? O_RDWR : O_RDONLY), 0666);
     if (fd < 0 && m.write && !m.read && errno == EACCES) {
         fd = open(name.c_str(), flags | O_WRONLY, 0666);
@@ -89,13 +92,20 @@ MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, O
     int fd = openDescriptor(name, m, &readable);
     if (fd < 0) return *why = fromErrno(errno), nullptr;
     struct stat st;
-    bool ok = fstat(fd, &st) == 0 && !S_ISDIR(st.st_mode) &&
-              (!readable || !S_ISREG(st.st_mode) || shareAcquire(fd, m.read, m.write, share));
-    if (!ok || (m.truncate && S_ISREG(st.st_mode) && ftruncate(fd, 0) != 0)) {
+    // Only regular files: a FIFO, a device or a socket would block, never end
+    // (/dev/zero) or swallow the data, none of which a macro expects of a file.
+    bool ok = fstat(fd, &st) == 0 && S_ISREG(st.st_mode) &&
+              fcntl(fd, F_SETFL, fcntl(fd, F_GETFL) & ~O_NONBLOCK) == 0 &&
+              (!readable || shareAcquire(fd, m.read, m.write, share));
+    if (!ok || (m.truncate && ftruncate(fd, 0) != 0)) {
         close(fd);
         return *why = OpenError::kAccessDenied, nullptr;
     }
-    auto *f = new MxpFile;
+    auto *f = new (std::nothrow) MxpFile;
+    if (!f) {
+        close(fd);
+        return *why = OpenError::kOther, nullptr;
+    }
     f->io.fd = fd;
     f->mode = m;
     f->writing = m.write && !m.read;
@@ -107,11 +117,12 @@ MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, O
     return f;
 }
 
-void mxp_FileClose(MxpFile *file) {
-    if (!file) return;
-    mxp_FileFlush(file);
-    close(file->io.fd);
+int32_t mxp_FileClose(MxpFile *file) {
+    if (!file) return 0;
+    bool ok = mxp_FileFlush(file) == 0 && !file->io.failed;
+    ok = close(file->io.fd) == 0 && ok;
     delete file;
+    return ok ? 0 : -1;
 }
 
 int64_t mxp_FileLength(MxpFile *file) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <cstdio>
 #include <random>
 
@@ -159,9 +160,21 @@ int32_t mxp_CreateUniqueFile(const char16_t *dir, const char16_t *prefix, char16
 bool mxp_FileReplace(const char16_t *path, const void *data, size_t size) {
     std::string name = toUtf8(path);
     if (name.empty()) return false;
-    if (withDescriptor(name, [](int fd) { return shareDenies(fd, false, true); })) return false;
+    // A symbolic link stays a link: the new file replaces its target. A
+    // dangling link is refused rather than replaced by a file of its own.
     struct stat st;
-    mode_t mode = stat(name.c_str(), &st) == 0 ? st.st_mode & 07777 : 0644;
+    if (lstat(name.c_str(), &st) == 0 && S_ISLNK(st.st_mode)) {
+        char *target = realpath(name.c_str(), nullptr);
+        if (!target) return false;
+        name = target;
+        std::free(target);
+    }
+    // Only a regular file (or none yet) is replaced: a device, FIFO or
+    // directory keeps what it is.
+    bool present = stat(name.c_str(), &st) == 0;
+    if (present && !S_ISREG(st.st_mode)) return false;
+    if (withDescriptor(name, [](int fd) { return shareDenies(fd, false, true); })) return false;
+    mode_t mode = present ? st.st_mode & 07777 : 0644;
     std::string temp = name + ".mx-XXXXXX";
     int fd = mkostemp(temp.data(), O_CLOEXEC);
     if (fd < 0) return false;

@@ -76,11 +76,15 @@ bool load(const std::u16string &path, ProfileFile *out) {
     OpenError why = OpenError::kNone;
     MxpFile *f = mxp_FileOpen(path.c_str(), u"rb", Share::kDenyWrite, &why);
     if (!f) return why == OpenError::kNotFound && mxp_PathKind(path.c_str()) == PathKind::kMissing;
+    // Closed however the reading ends, also when the text outgrows memory.
+    struct Closer {
+        MxpFile *f;
+        ~Closer() { mxp_FileClose(f); }
+    } closer{f};
     std::string bytes;
     char chunk[4096];
     int64_t n;
     while ((n = mxp_FileReadBytes(f, chunk, sizeof chunk)) > 0) bytes.append(chunk, size_t(n));
-    mxp_FileClose(f);
     if (n < 0) return false;
     out->text = ProfileText::parse(decode(bytes, &out->form));
     return true;
@@ -133,6 +137,9 @@ int32_t mxp_ProfileRead(const char16_t *file, const char16_t *section, const cha
 int32_t mxp_ProfileWrite(const char16_t *file, const char16_t *section, const char16_t *key,
                          const char16_t *value) {
     if (!file || !*file || !section) return 0;
+    // Refused rather than written in a form that reads back differently
+    // (a line feed in a value would even add entries of its own).
+    if (key && value && !ProfileText::canHold(section, key, value)) return 0;
     std::u16string path = resolve(file, value != nullptr && key != nullptr);
     ProfileFile p;
     if (!load(path, &p)) return 0;

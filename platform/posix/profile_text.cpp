@@ -77,6 +77,21 @@ size_t findEntry(const std::vector<std::u16string> &lines, size_t begin, size_t 
 
 }  // namespace
 
+namespace {
+bool hasAny(const std::u16string &s, const char16_t *chars) { return s.find_first_of(chars) != s.npos; }
+bool blankEnds(const std::u16string &s) { return !s.empty() && (isBlank(s.front()) || isBlank(s.back())); }
+}  // namespace
+
+bool ProfileText::canHold(const char16_t *section, const char16_t *key, const char16_t *value) {
+    std::u16string s = section ? section : u"";
+    if (hasAny(s, u"\r\n]") || blankEnds(s)) return false;
+    if (key) {
+        std::u16string k = key;
+        if (hasAny(k, u"\r\n=") || blankEnds(k) || (!k.empty() && k[0] == u'[')) return false;
+    }
+    return !value || !hasAny(value, u"\r\n");
+}
+
 ProfileText ProfileText::parse(const std::u16string &text) {
     ProfileText p;
     size_t start = 0;

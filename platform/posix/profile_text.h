@@ -31,6 +31,12 @@ struct ProfileText {
     // The names of the entries of a section, in order.
     std::vector<std::u16string> entryNames(const std::u16string &section) const;
 
+    // True when the line format holds these names and value so that they read
+    // back unchanged: no line break anywhere; a section name without "]" and
+    // without blanks at its ends; a key without "=", without blanks at its
+    // ends and not starting with "[". Absent key or value: not checked.
+    static bool canHold(const char16_t *section, const char16_t *key, const char16_t *value);
+
     // Sets the entry (replacing its line, or adding it after the section's
     // last line that is not blank, or adding the section at the end).
     void set(const std::u16string &section, const std::u16string &key, const std::u16string &value);

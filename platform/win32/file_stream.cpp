@@ -1,5 +1,8 @@
 // File streams of the C runtime with sharing modes; the runtime itself does
 // the translations of every mode.
+#include <windows.h>
+#include <io.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cwchar>
@@ -48,14 +51,23 @@ MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, O
         if (why) *why = path && m.valid ? fromErrno(errno) : OpenError::kOther;
         return nullptr;
     }
+    // Only files on a disk: a device, pipe or console would block, never end
+    // or swallow the data, none of which a macro expects of a file.
+    if (GetFileType(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(fp)))) != FILE_TYPE_DISK) {
+        std::fclose(fp);
+        if (why) *why = OpenError::kAccessDenied;
+        return nullptr;
+    }
     if (why) *why = OpenError::kNone;
     return new MxpFile{fp, m.ccs != Ccs::kNone};
 }
 
-void mxp_FileClose(MxpFile *file) {
-    if (!file) return;
-    std::fclose(file->fp);
+int32_t mxp_FileClose(MxpFile *file) {
+    if (!file) return 0;
+    bool ok = std::fflush(file->fp) == 0 && !std::ferror(file->fp);
+    ok = std::fclose(file->fp) == 0 && ok;
     delete file;
+    return ok ? 0 : -1;
 }
 
 int64_t mxp_FileLength(MxpFile *file) {
