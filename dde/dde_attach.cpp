@@ -1,9 +1,11 @@
 #include "dde/dde_attach.h"
 
+#include "dde/dde_class.h"
+
 namespace mx {
 
-bool ddeAttach(ModuleHandle) { return true; }
+bool ddeAttach(ModuleHandle module) { return ddeRegisterClass(module) == 0; }
 
-void ddeDetach(ModuleHandle) {}
+void ddeDetach(ModuleHandle module) { ddeUnregisterClass(module); }
 
 }  // namespace mx

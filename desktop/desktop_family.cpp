@@ -7,8 +7,8 @@
 #include "desktop/host_requests.h"
 #include "desktop/mdi.h"
 #include "desktop/processes.h"
-#include "desktop/text_arg.h"
 #include "desktop/windows.h"
+#include "engine/args.h"
 #include "engine/function_numbers.h"
 #include "helperlib/kelvane_mail.h"
 
@@ -21,7 +21,7 @@ WindowHandle handleArg(Value *v) { return reinterpret_cast<WindowHandle>(intptr_
 int32_t handleResult(WindowHandle w) { return int32_t(reinterpret_cast<intptr_t>(w)); }
 
 int32_t biGetWindow(RunContext &, Value **args, int32_t) {
-    DskText app(args[0]), child(args[1]);
+    ArgTextZ app(args[0]), child(args[1]);
     return handleResult(dskGetWindow(app.get(), child.get()));
 }
 
@@ -72,53 +72,53 @@ int32_t biReadClipboard(RunContext &ctx, Value **args, int32_t) {
 }
 
 int32_t biWriteClipboard(RunContext &ctx, Value **args, int32_t) {
-    DskText text(args[0]);
+    ArgTextZ text(args[0]);
     return dskWriteClipboard(ctx.hostWindow, text.get(), text.length());
 }
 
 int32_t biGetEnvironment(RunContext &, Value **args, int32_t) {
-    DskText name(args[0]);
+    ArgTextZ name(args[0]);
     return dskGetEnvironment(name.get(), argText(args[1]), argCapacity(args[1]));
 }
 
 // Starts the program as CreateProcess does, with Activation as its show mode
 // (0: shown); the answer is always 0, whether it started or not.
 int32_t biExecuteProgram(RunContext &, Value **args, int32_t) {
-    DskText line(args[0]);
+    ArgTextZ line(args[0]);
     int32_t mode = argLong(args[1]);
     dskCreateProcess(line.get(), mode ? mode : 5);
     return 0;
 }
 
 int32_t biCreateProcess(RunContext &, Value **args, int32_t) {
-    DskText line(args[0]);
+    ArgTextZ line(args[0]);
     return dskCreateProcess(line.get(), argLong(args[1]));
 }
 
 int32_t biExecuteProgramModal(RunContext &, Value **args, int32_t) {
-    DskText line(args[0]);
+    ArgTextZ line(args[0]);
     return dskExecuteProgramModal(line.get(), argLong(args[1]), argLongRef(args[2]));
 }
 
 int32_t biShellExecute(RunContext &, Value **args, int32_t) {
-    DskText file(args[0]), verb(args[1]);
+    ArgTextZ file(args[0]), verb(args[1]);
     return dskShellExecute(file.get(), verb.get(), argLong(args[2]));
 }
 
 int32_t biFindExecutable(RunContext &, Value **args, int32_t) {
-    DskText file(args[0]);
+    ArgTextZ file(args[0]);
     return dskFindExecutable(file.get(), argText(args[1]), argCapacity(args[1]));
 }
 
 int32_t biSendMail(RunContext &, Value **args, int32_t) {
-    DskText sender(args[0]), to(args[1]), cc(args[2]), bcc(args[3]), subject(args[4]), text(args[5]),
+    ArgTextZ sender(args[0]), to(args[1]), cc(args[2]), bcc(args[3]), subject(args[4]), text(args[5]),
         files(args[6]);
     return Kelvane_SendMailW(sender.get(), to.get(), cc.get(), bcc.get(), subject.get(), text.get(),
                              files.get(), argLong(args[7]));
 }
 
 int32_t biOpenBrowser(RunContext &, Value **args, int32_t) {
-    DskText url(args[0]);
+    ArgTextZ url(args[0]);
     return Kelvane_RunStandardBrowserW(url.get(), 0);
 }
 
@@ -135,7 +135,7 @@ int32_t biAbbDeleteButton(RunContext &ctx, Value **args, int32_t) {
 int32_t biAbbDeleteAllButtons(RunContext &ctx, Value **, int32_t) { return dskDeleteAllButtons(ctx.hostWindow); }
 
 int32_t setProperty(RunContext &ctx, Value **args, int32_t kind) {
-    DskText text(args[1]);
+    ArgTextZ text(args[1]);
     return dskSetButtonProperty(ctx.hostWindow, argLong(args[0]), kind, text.get());
 }
 

@@ -11,53 +11,30 @@ namespace mx {
 
 namespace {
 
-// The text of a C[] argument, terminated: a vector filled up to its last
-// element without a terminator is copied into holder first (empty when that
-// copy cannot be made).
-const char16_t *textArg(Value *v, std::u16string &holder) {
-    const char16_t *text = argText(v);
-    int32_t capacity = argCapacity(v);
-    if (!text) return u"";
-    for (int32_t i = 0; i < capacity; ++i)
-        if (!text[i]) return text;
-    try {
-        holder.assign(text, size_t(capacity > 0 ? capacity : 0));
-    } catch (const std::bad_alloc &) {
-        return u"";
-    }
-    return holder.c_str();
-}
-
 int32_t biMessageBox(RunContext &, Value **args, int32_t) {
-    std::u16string a, b;
-    return dlgShowMessage(textArg(args[0], a), textArg(args[1], b), argLong(args[2]), argLong(args[3]),
-                          false);
+    return dlgShowMessage(ArgTextZ(args[0]).get(), ArgTextZ(args[1]).get(), argLong(args[2]),
+                          argLong(args[3]), false);
 }
 
 int32_t biMessageDialog(RunContext &, Value **args, int32_t) {
-    std::u16string a;
-    return dlgShowMessage(u"", textArg(args[0], a), argLong(args[1]), argLong(args[2]), false);
+    return dlgShowMessage(u"", ArgTextZ(args[0]).get(), argLong(args[1]), argLong(args[2]), false);
 }
 
 int32_t biSysModalMessageBox(RunContext &, Value **args, int32_t) {
-    std::u16string a, b;
-    return dlgShowMessage(textArg(args[0], a), textArg(args[1], b), argLong(args[2]), argLong(args[3]),
-                          true);
+    return dlgShowMessage(ArgTextZ(args[0]).get(), ArgTextZ(args[1]).get(), argLong(args[2]),
+                          argLong(args[3]), true);
 }
 
 int32_t biAlert(RunContext &, Value **args, int32_t) {
-    std::u16string a;
-    return dlgShowMessage(u"", textArg(args[0], a), 73, kAnswerOk, true);
+    return dlgShowMessage(u"", ArgTextZ(args[0]).get(), 73, kAnswerOk, true);
 }
 
 int32_t biIntDialog(RunContext &ctx, Value **args, int32_t) {
-    std::u16string a, b;
-    return dlgIntDialog(ctx, textArg(args[0], a), textArg(args[1], b), argLongRef(args[2]));
+    return dlgIntDialog(ctx, ArgTextZ(args[0]).get(), ArgTextZ(args[1]).get(), argLongRef(args[2]));
 }
 
 int32_t biTextDialog(RunContext &ctx, Value **args, int32_t) {
-    std::u16string a, b;
-    return dlgInputText(ctx, textArg(args[0], a), textArg(args[1], b), argText(args[2]),
+    return dlgInputText(ctx, ArgTextZ(args[0]).get(), ArgTextZ(args[1]).get(), argText(args[2]),
                         argCapacity(args[2]));
 }
 
@@ -75,10 +52,10 @@ int32_t biSetDialogSize(RunContext &ctx, Value **args, int32_t) {
 
 // Title, ListFile, xPos, yPos, Width, Height, Scrollwidth, Flags, Result, hResult.
 int32_t listBox(Value **args, int32_t flags) {
-    std::u16string a, b;
+    ArgTextZ title(args[0]), file(args[1]);
     ListBoxRecord r{};
-    r.title = textArg(args[0], a);
-    r.file = textArg(args[1], b);
+    r.title = title.get();
+    r.file = file.get();
     r.x = argLong(args[2]);
     r.y = argLong(args[3]);
     r.width = argLong(args[4]);
@@ -103,20 +80,17 @@ int32_t biListDialogAnsi(RunContext &, Value **args, int32_t) {
 }
 
 int32_t biListViewDialog(RunContext &, Value **args, int32_t) {
-    std::u16string a, b, c;
-    return dlgListViewDialog(textArg(args[0], a), textArg(args[1], b), textArg(args[2], c),
-                             argLong(args[3]));
+    ArgTextZ title(args[0]), file(args[1]), header(args[2]);
+    return dlgListViewDialog(title.get(), file.get(), header.get(), argLong(args[3]));
 }
 
 int32_t biFilenameDialog(RunContext &, Value **args, int32_t) {
-    std::u16string a, b;
     return dlgFilenameDialog(argText(args[0]), argCapacity(args[0]), argLong(args[1]),
-                             textArg(args[2], a), textArg(args[3], b));
+                             ArgTextZ(args[2]).get(), ArgTextZ(args[3]).get());
 }
 
 int32_t biDirectoryDialog(RunContext &, Value **args, int32_t) {
-    std::u16string a;
-    return dlgDirectoryDialog(argText(args[0]), argCapacity(args[0]), textArg(args[1], a),
+    return dlgDirectoryDialog(argText(args[0]), argCapacity(args[0]), ArgTextZ(args[1]).get(),
                               argLong(args[2]));
 }
 

@@ -14,26 +14,8 @@ namespace mx {
 
 namespace {
 
-// The text of a C[] argument, terminated: a vector filled up to its last
-// element without a terminator is copied into holder first. An empty text
-// when that copy cannot be made.
-const char16_t *textArg(Value *v, std::u16string &holder) {
-    const char16_t *text = argText(v);
-    int32_t capacity = argCapacity(v);
-    if (!text) return u"";
-    for (int32_t i = 0; i < capacity; ++i)
-        if (!text[i]) return text;
-    try {
-        holder.assign(text, size_t(capacity > 0 ? capacity : 0));
-    } catch (const std::bad_alloc &) {
-        return u"";
-    }
-    return holder.c_str();
-}
-
 int32_t biOdbcConnect(RunContext &, Value **args, int32_t) {
-    std::u16string a, b, c;
-    return odbcConnect(textArg(args[0], a), textArg(args[1], b), textArg(args[2], c));
+    return odbcConnect(ArgTextZ(args[0]).get(), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
 }
 
 int32_t biOdbcDisconnect(RunContext &, Value **args, int32_t) {
@@ -41,36 +23,30 @@ int32_t biOdbcDisconnect(RunContext &, Value **args, int32_t) {
 }
 
 int32_t biOdbcPerformSql(RunContext &, Value **args, int32_t) {
-    std::u16string a;
-    return odbcPerformSql(argLong(args[0]), textArg(args[1], a));
+    return odbcPerformSql(argLong(args[0]), ArgTextZ(args[1]).get());
 }
 
 int32_t biOdbcSelectLine(RunContext &, Value **args, int32_t) {
-    std::u16string a;
-    return odbcSelectLine(argLong(args[0]), textArg(args[1], a), argText(args[2]),
+    return odbcSelectLine(argLong(args[0]), ArgTextZ(args[1]).get(), argText(args[2]),
                           argCapacity(args[2]));
 }
 
 int32_t biOdbcSelect(RunContext &, Value **args, int32_t) {
-    std::u16string a, b;
-    return odbcSelect(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
+    return odbcSelect(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
 }
 
 int32_t biOdbcCountRecords(RunContext &, Value **args, int32_t) {
-    std::u16string a, b;
-    return odbcCountRecords(argLong(args[0]), textArg(args[1], a), textArg(args[2], b));
+    return odbcCountRecords(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get());
 }
 
 int32_t biOdbcAddFields(RunContext &, Value **args, int32_t) {
-    std::u16string a, b, c;
-    return odbcAddFields(argLong(args[0]), textArg(args[1], a), textArg(args[2], b),
-                         textArg(args[3], c), argDoubleRef(args[4]));
+    return odbcAddFields(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get(),
+                         ArgTextZ(args[3]).get(), argDoubleRef(args[4]));
 }
 
 int32_t biOdbcGetMaximum(RunContext &, Value **args, int32_t) {
-    std::u16string a, b, c;
-    return odbcGetMaximum(argLong(args[0]), textArg(args[1], a), textArg(args[2], b),
-                          textArg(args[3], c), argDoubleRef(args[4]));
+    return odbcGetMaximum(argLong(args[0]), ArgTextZ(args[1]).get(), ArgTextZ(args[2]).get(),
+                          ArgTextZ(args[3]).get(), argDoubleRef(args[4]));
 }
 
 int32_t biOdbcDateToSqlConst(RunContext &, Value **args, int32_t) {

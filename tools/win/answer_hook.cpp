@@ -5,10 +5,14 @@
 #include <shlobj.h>
 
 #include "base/utf8.h"
+#include "window_text.h"
 
 using mx::AnswerAction;
 using mx::DialogAnswer;
 using mx::DialogKind;
+
+using mxhost::toStandardError;
+using mxhost::windowText;
 
 namespace {
 
@@ -18,19 +22,6 @@ const wchar_t kAnsweredMark[] = L"Morvix.Answered";
 thread_local HHOOK hook;
 AnswerBoxReport reportTo;
 AnswerObserver observer;
-
-void toStandardError(const std::string &line) {
-    DWORD written;
-    WriteFile(GetStdHandle(STD_ERROR_HANDLE), line.data(), DWORD(line.size()), &written, nullptr);
-}
-
-std::u16string windowText(HWND w) {
-    int n = GetWindowTextLengthW(w);
-    std::wstring s(size_t(n) + 1, L'\0');
-    GetWindowTextW(w, s.data(), n + 1);
-    s.resize(size_t(n));
-    return std::u16string(s.begin(), s.end());
-}
 
 std::wstring className(HWND w) {
     wchar_t cls[64] = {};

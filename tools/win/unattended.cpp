@@ -5,25 +5,16 @@
 #include <string>
 
 #include "base/utf8.h"
+#include "window_text.h"
+
+using mxhost::toStandardError;
+using mxhost::windowText;
 
 namespace {
 
 thread_local HHOOK hook;  // one watcher per thread that shows boxes
 BoxReport reportTo;
 HWND lastOwner;
-
-void toStandardError(const std::string &line) {
-    DWORD written;
-    WriteFile(GetStdHandle(STD_ERROR_HANDLE), line.data(), DWORD(line.size()), &written, nullptr);
-}
-
-std::u16string windowText(HWND w) {
-    int n = GetWindowTextLengthW(w);
-    std::wstring s(size_t(n) + 1, L'\0');
-    GetWindowTextW(w, s.data(), n + 1);
-    s.resize(size_t(n));
-    return std::u16string(s.begin(), s.end());
-}
 
 bool isDialog(HWND w) {
     wchar_t cls[16];
