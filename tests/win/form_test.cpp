@@ -85,6 +85,7 @@ protected:
     }
     void TearDown() override {
         SetDllDirectoryW(nullptr);
+        releaseOwner();
         UnhookWindowsHookEx(hook);
         hook = nullptr;
     }

@@ -68,7 +68,10 @@ protected:
         scratch_ = winScratchDir();
         winWriteFile(scratch_ + L"\\kunden.csv", "Kunde;Ort\nM\xC3\xBCller;K\xC3\xB6ln\nSchmidt;Bonn\n");
     }
-    void TearDown() override { removeAppPath(); }
+    void TearDown() override {
+        removeAppPath();
+        releaseOwner();
+    }
     std::u16string path(const std::wstring &name) const {
         std::wstring p = scratch_ + L"\\" + name, escaped;
         for (wchar_t c : p) escaped += c == L'\\' ? std::wstring(L"\\\\") : std::wstring(1, c);

@@ -24,6 +24,7 @@ protected:
     void TearDown() override {
         removeAppPath();
         SetDllDirectoryW(nullptr);
+        releaseOwner();
     }
     static void useEngine(const std::wstring &variant) { setAppPath(standinDir(L"report", variant)); }
     static WinRun run(const char16_t *body) { return winRunMemory(body); }

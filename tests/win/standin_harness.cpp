@@ -41,12 +41,14 @@ void setAppPath(const std::wstring &path) {
 
 void removeAppPath() { RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, L"AppPath"); }
 
+namespace {
+HWND owner;
+}
+
 HWND activeOwner() {
-    static HWND owner = [] {
-        HWND w = CreateWindowExW(0, L"STATIC", L"Gastgeber", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, 300,
+    if (!owner)
+        owner = CreateWindowExW(0, L"STATIC", L"Gastgeber", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, 300,
                                  200, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
-        return w;
-    }();
     SetActiveWindow(owner);
     SetForegroundWindow(owner);
     return owner;
@@ -63,4 +65,11 @@ std::string hex(const void *p) {
     char buf[32];
     std::snprintf(buf, sizeof buf, "%llx", static_cast<unsigned long long>(reinterpret_cast<uintptr_t>(p)));
     return buf;
+}
+
+void releaseOwner() {
+    // A top-level window of a thread that waits for a child process would
+    // block that child's broadcasts (DDE initiation): none may outlive a test.
+    if (owner) DestroyWindow(owner);
+    owner = nullptr;
 }

@@ -21,6 +21,8 @@ void removeAppPath();
 
 // A visible top-level window of the test made the active one.
 HWND activeOwner();
+// Destroys that window (call when the test ends).
+void releaseOwner();
 
 std::string utf8(const std::wstring &s);
 std::string hex(const void *p);
