@@ -19,10 +19,10 @@ struct CheckTable {
     std::vector<bool> functions;
     std::vector<mx::FunctionRow> rows;
 
-    void add(const std::u16string &spec) {
-        size_t eq = spec.find(u'=');
-        names.push_back(spec.substr(0, eq));
-        signatures.push_back(eq == std::u16string::npos ? u"" : spec.substr(eq + 1));
+    void add(const std::u16string &hostName) {
+        size_t eq = hostName.find(u'=');
+        names.push_back(hostName.substr(0, eq));
+        signatures.push_back(eq == std::u16string::npos ? u"" : hostName.substr(eq + 1));
         functions.push_back(eq != std::u16string::npos);
     }
     const mx::FunctionRow *build() {

@@ -1,6 +1,7 @@
-// The file and folder choosers, native: the helper library can show none,
-// so without an answer source both report a cancel; with one, the answer's
-// path is taken as the user's choice, as written in the script.
+// The file and folder choosers: the helper library shows the platform's
+// dialogs (natively it can show none, so both report a cancel). A host that
+// installed an answer source gets the answer's path as the user's choice,
+// as written in the script.
 #include "base/u16.h"
 #include "dialogs/dialog_answers.h"
 #include "dialogs/dialogs.h"
