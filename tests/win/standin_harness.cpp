@@ -1,20 +1,15 @@
 #include "standin_harness.h"
 
-#include <cstdio>
-
 #include "win_harness.h"
 
 namespace {
 std::wstring logPath;
 const wchar_t *kKey = L"Software\\Kelvane Software\\Report\\Install";
+HWND owner;
 }  // namespace
 
 std::wstring standinDir(const std::wstring &kind, const std::wstring &variant) {
-    wchar_t exe[MAX_PATH];
-    GetModuleFileNameW(nullptr, exe, MAX_PATH);
-    std::wstring dir = exe;
-    dir.resize(dir.rfind(L'\\'));
-    return dir + L"\\modules\\" + kind + L"\\" + variant;
+    return binDir() + L"\\modules\\" + kind + L"\\" + variant;
 }
 
 void standinLogStart() {
@@ -41,30 +36,13 @@ void setAppPath(const std::wstring &path) {
 
 void removeAppPath() { RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, L"AppPath"); }
 
-namespace {
-HWND owner;
-}
-
 HWND activeOwner() {
     if (!owner)
         owner = CreateWindowExW(0, L"STATIC", L"Gastgeber", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, 300,
-                                 200, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+                                200, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     SetActiveWindow(owner);
     SetForegroundWindow(owner);
     return owner;
-}
-
-std::string utf8(const std::wstring &s) {
-    int n = WideCharToMultiByte(CP_UTF8, 0, s.c_str(), int(s.size()), nullptr, 0, nullptr, nullptr);
-    std::string out(size_t(n), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, s.c_str(), int(s.size()), out.data(), n, nullptr, nullptr);
-    return out;
-}
-
-std::string hex(const void *p) {
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%llx", static_cast<unsigned long long>(reinterpret_cast<uintptr_t>(p)));
-    return buf;
 }
 
 void releaseOwner() {

@@ -23,6 +23,3 @@ void removeAppPath();
 HWND activeOwner();
 // Destroys that window (call when the test ends).
 void releaseOwner();
-
-std::string utf8(const std::wstring &s);
-std::string hex(const void *p);

@@ -1,5 +1,6 @@
 #include "win_harness.h"
 
+#include <cstdio>
 #include <fstream>
 #include <sstream>
 
@@ -70,6 +71,11 @@ WinRun winRunFile(const std::u16string &command, int country, long abortAfter, H
     });
 }
 
+std::string runIn(HWND window, const std::string &text) {
+    WinRun r = winRunMemory(u16(text), nullptr, -1, window);
+    return r.result == 0 ? r.output : r.output + "result: " + std::to_string(r.result) + "\n";
+}
+
 std::wstring winScratchDir() {
     wchar_t base[MAX_PATH], name[MAX_PATH];
     GetTempPathW(MAX_PATH, base);
@@ -77,6 +83,12 @@ std::wstring winScratchDir() {
     DeleteFileW(name);
     CreateDirectoryW(name, nullptr);
     return name;
+}
+
+std::wstring binDir() {
+    wchar_t path[MAX_PATH];
+    std::wstring p(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
+    return p.substr(0, p.find_last_of(L'\\'));
 }
 
 std::string winReadFile(const std::wstring &path) {
@@ -89,4 +101,32 @@ std::string winReadFile(const std::wstring &path) {
 void winWriteFile(const std::wstring &path, const std::string &bytes) {
     std::ofstream f(path.c_str(), std::ios::binary);
     f << bytes;
+}
+
+std::string utf8(const std::wstring &s) {
+    int n = WideCharToMultiByte(CP_UTF8, 0, s.c_str(), int(s.size()), nullptr, 0, nullptr, nullptr);
+    std::string out(size_t(n), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, s.c_str(), int(s.size()), out.data(), n, nullptr, nullptr);
+    return out;
+}
+
+std::u16string u16(const std::string &text) {
+    int n = MultiByteToWideChar(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0);
+    std::u16string out(size_t(n), u'\0');
+    MultiByteToWideChar(CP_UTF8, 0, text.data(), int(text.size()), reinterpret_cast<wchar_t *>(out.data()), n);
+    return out;
+}
+
+std::string macroPath(const std::wstring &path) {
+    std::string out;
+    for (char c : utf8(path)) out += c == '\\' ? std::string("\\\\") : std::string(1, c);
+    return out;
+}
+
+std::string num(HWND w) { return std::to_string(long(reinterpret_cast<intptr_t>(w))); }
+
+std::string hex(const void *p) {
+    char buf[32];
+    std::snprintf(buf, sizeof buf, "%llx", static_cast<unsigned long long>(reinterpret_cast<uintptr_t>(p)));
+    return buf;
 }

@@ -1,21 +1,19 @@
 // ddeserver: a DDE server for the tests of the DDE client.
 //
-//   ddeserver [TOPIC] [--app NAME] [--topic NAME] [--log FILE] [--ready EVENT]
-//             [--refuse] [--late MS] [--quit-on-transaction] [--release]
-//             [--ack-request] [--data TEXT] [--dib] [--stay] [--lifetime MS]
+//   ddeserver [TOPIC] [--log FILE] [--ready EVENT] [--refuse] [--late MS]
+//             [--quit-on-transaction] [--release] [--ack-request] [--dib] [--stay]
 //
-// It answers an initiate for its application and topic (default "MxDdeTest"
-// and "MxTopic"; an empty atom matches anything), then executes, pokes and
-// requests: positively, or negatively with --refuse, after MS milliseconds
-// with --late, or not at all with --quit-on-transaction (it ends the
-// conversation instead). A request gets TEXT (default "ABCDEFG") in the
-// requested format, with the release and acknowledgement-request bits as
-// asked; with --dib a format 8 request gets the handle of a small
-// device-independent bitmap. Every message is recorded as one line in the
-// log file (default: the variable MX_DDESERVER_LOG). It quits when the
-// client ends the conversation (unless --stay) or after the lifetime
-// (default 20 s), so that no test leaves it running. The named event is set
-// once the server's window exists.
+// It answers an initiate for "MxDdeTest" and its topic (default "MxTopic";
+// an empty atom matches anything), then executes, pokes and requests:
+// positively, or negatively with --refuse, after MS milliseconds with
+// --late, or not at all with --quit-on-transaction (it ends the
+// conversation instead). A request gets "ABCDEFG" in the requested format,
+// with the release and acknowledgement-request bits as asked; with --dib a
+// format 8 request gets the handle of a small device-independent bitmap.
+// Every message is recorded as one line in the log file (default: the
+// variable MX_DDESERVER_LOG). It quits when the client ends the
+// conversation (unless --stay) or after 20 s, so that no test leaves it
+// running. The named event is set once the server's window exists.
 #include <windows.h>
 #include <dde.h>
 #include <shellapi.h>
@@ -196,19 +194,15 @@ void parse(int argc, wchar_t **argv) {
     for (int i = 1; i < argc; ++i) {
         std::wstring a = argv[i];
         auto next = [&] { return i + 1 < argc ? std::wstring(argv[++i]) : std::wstring(); };
-        if (a == L"--app") opt.app = next();
-        else if (a == L"--topic") opt.topic = next();
-        else if (a == L"--log") opt.log = next();
+        if (a == L"--log") opt.log = next();
         else if (a == L"--ready") opt.ready = next();
         else if (a == L"--refuse") opt.refuse = true;
         else if (a == L"--late") opt.late = wcstoul(next().c_str(), nullptr, 10);
         else if (a == L"--quit-on-transaction") opt.quitOnTransaction = true;
         else if (a == L"--release") opt.release = true;
         else if (a == L"--ack-request") opt.ackRequest = true;
-        else if (a == L"--data") opt.data = next();
         else if (a == L"--dib") opt.dib = true;
         else if (a == L"--stay") opt.stay = true;
-        else if (a == L"--lifetime") opt.lifetime = wcstoul(next().c_str(), nullptr, 10);
         else opt.topic = a;
     }
 }

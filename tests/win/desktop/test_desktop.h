@@ -4,7 +4,7 @@
 // to "Doc 3", and a disabled window "Disabled Window" with two children.
 // The frame answers the library's registered host message: it records every
 // request record (all fields, the text copied during the call) and replies
-// as the test asks. Shared by the test program and testhost.exe.
+// as the test asks.
 #pragma once
 #include <windows.h>
 
@@ -43,5 +43,3 @@ void hostReset(LRESULT reply, const std::vector<std::wstring> &params = {});
 // Handles every pending message of the thread.
 void pumpMessages();
 
-// Writes the requests, one line each, for testhost.exe's log.
-std::string hostRequestLog();

@@ -3,7 +3,8 @@
 // when its last window goes).
 #include <gtest/gtest.h>
 
-#include "desktop_harness.h"
+#include "test_desktop.h"
+#include "win_harness.h"
 
 namespace {
 

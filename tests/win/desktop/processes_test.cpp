@@ -5,7 +5,8 @@
 
 #include <cstdlib>
 
-#include "desktop_harness.h"
+#include "test_desktop.h"
+#include "win_harness.h"
 
 namespace {
 

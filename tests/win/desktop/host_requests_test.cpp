@@ -1,9 +1,10 @@
-// The button bar and command-line requests under Wine: the test host's frame
-// records every request record the library sends with its registered
+// The button bar and command-line requests under Wine: the test desktop's
+// frame records every request record the library sends with its registered
 // message and answers 4711, 1 or 0 as each test asks.
 #include <gtest/gtest.h>
 
-#include "desktop_harness.h"
+#include "test_desktop.h"
+#include "win_harness.h"
 
 namespace {
 
@@ -99,31 +100,4 @@ TEST_F(HostRequests, TheRequestGoesToTheTopLevelWindowOfTheWindowTheHostPassed) 
     EXPECT_EQ(runIn(nullptr, "Print(GetCommandLineCount()); Print(AbbDeleteAllButtons(0));"), "0\n-1\n");
     EXPECT_EQ(runIn(d.editor, "Print(GetCommandLineCount()); Print(AbbDeleteAllButtons(0));"), "0\n-1\n");
     EXPECT_TRUE(hostRequests().empty());
-}
-
-TEST(TestHostProgram, RunsMacrosInItsFrameAndLogsTheRequests) {
-    std::wstring dir = winScratchDir();
-    winWriteFile(dir + L"\\t.mac", "Macro \"T\" begin char v[20]; Print(AbbAppendButton(100, 24, 24, 48, 0));"
-                                   " Print(GetCommandLineParam(2, v)); Print(v); end");
-    std::wstring out = dir + L"\\out.txt", log = dir + L"\\log.txt";
-    std::wstring line = L"\"" + binDir() + L"\\testhost.exe\" --param one --param two --log \"" + log + L"\" \"" +
-                        dir + L"\\t.mac\"";
-    SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
-    HANDLE file = CreateFileW(out.c_str(), GENERIC_WRITE, 0, &inherit, CREATE_ALWAYS, 0, nullptr);
-    STARTUPINFOW si{};
-    si.cb = sizeof si;
-    si.dwFlags = STARTF_USESTDHANDLES;
-    si.hStdOutput = si.hStdError = file;
-    PROCESS_INFORMATION pi{};
-    ASSERT_TRUE(CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &si, &pi));
-    WaitForSingleObject(pi.hProcess, INFINITE);
-    DWORD code = 9;
-    GetExitCodeProcess(pi.hProcess, &code);
-    CloseHandle(pi.hThread);
-    CloseHandle(pi.hProcess);
-    CloseHandle(file);
-    EXPECT_EQ(code, 0u);
-    EXPECT_EQ(winReadFile(out), "0\n0\ntwo\n");
-    EXPECT_EQ(winReadFile(log), "op 1 record 1 fields 1 24 24 100 48 0 0 param 0 0 text \n"
-                                "op 7 record 1 fields 0 0 0 0 0 0 0 param 2 20 text \n");
 }

@@ -1,4 +1,4 @@
-#include "testhost_windows.h"
+#include "test_desktop.h"
 
 #include <cstdio>
 
@@ -107,19 +107,4 @@ void pumpMessages() {
         TranslateMessage(&m);
         DispatchMessageW(&m);
     }
-}
-
-std::string hostRequestLog() {
-    std::string out;
-    for (const HostRequest &r : requests) {
-        char line[256];
-        snprintf(line, sizeof line, "op %d record %d fields %ld %ld %ld %ld %ld %ld %ld param %ld %ld text ",
-                 int(r.op), int(r.hasRecord), long(r.button.mode), long(r.button.height), long(r.button.width),
-                 long(r.button.command), long(r.button.state), long(r.button.kind), long(r.button.reserved),
-                 long(r.param.number), long(r.param.capacity));
-        out += line;
-        for (wchar_t c : r.text) out += c < 128 ? char(c) : '?';
-        out += "\n";
-    }
-    return out;
 }

@@ -3,7 +3,8 @@
 // acting on the host's MDI client.
 #include <gtest/gtest.h>
 
-#include "desktop_harness.h"
+#include "test_desktop.h"
+#include "win_harness.h"
 
 namespace {
 
@@ -141,7 +142,7 @@ TEST_F(Windows, TheExportedEnumerationProceduresFindWindows) {
     EnumWindows(byInstance, reinterpret_cast<LPARAM>(&inst));
     EXPECT_NE(inst.found, nullptr);
     EXPECT_EQ(GetWindowLongPtrW(inst.found, GWLP_HINSTANCE), reinterpret_cast<LONG_PTR>(GetModuleHandleW(nullptr)));
-    struct { const wchar_t *module; HWND found; } mod{L"MORVIX_DESKTOP_TESTS.EXE", nullptr}, none{L"nothing.exe", nullptr};
+    struct { const wchar_t *module; HWND found; } mod{L"MORVIX_WINTESTS.EXE", nullptr}, none{L"nothing.exe", nullptr};
     EnumWindows(byModule, reinterpret_cast<LPARAM>(&mod));
     EnumWindows(byModule, reinterpret_cast<LPARAM>(&none));
     EXPECT_NE(mod.found, nullptr);

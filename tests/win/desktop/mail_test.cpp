@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "../../mail/smtp_sink.h"
-#include "desktop_harness.h"
+#include "test_desktop.h"
+#include "win_harness.h"
 
 TEST(WineMail, TheMailArrivesWithBccOnlyInTheEnvelopeAndTheAttachmentIntact) {
     SmtpSink sink;

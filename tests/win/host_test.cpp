@@ -1,0 +1,161 @@
+// The DLL as a host sees it: every export and the built-in table through
+// it, the real error box with its owner, deep nesting on a host thread's
+// 1 MB stack, and mxrun.exe as a program (its output order, exit status,
+// answer script and check mode).
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "unattended.h"
+#include "win_harness.h"
+
+namespace {
+
+std::wstring text(const WCHAR *s) { return s; }
+
+TEST(WinHost, EveryExportAnswers) {
+    const WinExports &e = dll();
+    ASSERT_NE(e.dll, nullptr);
+    WCHAR buf[64];
+    // The version resource says what the header says.
+    const std::string version = MORVIX_VERSION_TEXT;
+    const std::wstring wide(version.begin(), version.end());
+    EXPECT_EQ(e.getVersion(buf, 64), LONG(wide.size()));
+    EXPECT_EQ(text(buf), wide);
+    EXPECT_EQ(e.getMacroLibVersion(buf, 64), LONG(wide.size()));
+    EXPECT_EQ(text(buf), wide);
+    EXPECT_EQ(e.getTlxModuleName(buf, 64), 9);
+    EXPECT_EQ(text(buf), L"MORVIXDLL");
+    EXPECT_EQ(e.getTlxModuleName(buf, 4), 3);
+    EXPECT_EQ(text(buf), L"MOR");
+    EXPECT_EQ(e.getInstance(), e.dll);
+    std::wstring dir = winScratchDir();
+    winWriteFile(dir + L"\\t.mac", "Macro \"Test\" begin end");
+    EXPECT_EQ(e.getMacroHeader((dir + L"\\missing.mac").c_str(), buf, 50), -2);
+    EXPECT_EQ(e.getMacroHeader((dir + L"\\t.mac").c_str(), buf, 3), 0);
+    EXPECT_EQ(text(buf), L"Te");
+}
+
+// The table as a host walks it: sorted, 318 rows, the all-zero end row,
+// and the fields of a row as wide pointers.
+TEST(WinHost, TheFunctionTableThroughTheExport) {
+    const MX_FUNCTION_ROW *rows = dll().getFunctionList(), *open = nullptr;
+    ASSERT_NE(rows, nullptr);
+    size_t n = 0, constants = 0;
+    std::set<DWORD> numbers;
+    for (; rows[n].name && n < 1000; ++n) {
+        if (n > 0) EXPECT_LT(std::wstring(rows[n - 1].name), std::wstring(rows[n].name)) << n;
+        if (!rows[n].signature) ++constants;
+        else numbers.insert(rows[n].identifier & 0xFFFF);
+        if (std::wstring(rows[n].name) == L"Datei\u00D6ffnen") open = &rows[n];
+    }
+    EXPECT_EQ(n, 318u);
+    EXPECT_EQ(constants, 32u);
+    EXPECT_EQ(numbers.size(), 196u);
+    EXPECT_TRUE(rows[n].identifier == 0 && !rows[n].signature && !rows[n].paramNames);
+    ASSERT_NE(open, nullptr);
+    EXPECT_EQ(open->identifier, 65538u);
+    EXPECT_EQ(std::wstring(open->signature), L"C[]C[]");
+    EXPECT_EQ(std::wstring(open->paramNames), L"Dateiname,ModusText");
+}
+
+// The box is a real message box owned by the top-level ancestor of the
+// window the host passed.
+TEST(WinHost, TheErrorBoxIsRealAndOwnedByTheTopLevelAncestor) {
+    HWND top = CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW, 0, 0, 200, 100, nullptr, nullptr,
+                               GetModuleHandleW(nullptr), nullptr);
+    HWND middle = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 100, 50, top, nullptr, nullptr, nullptr);
+    HWND child = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 50, 20, middle, nullptr, nullptr, nullptr);
+    WinRun r = winRunMemory(u"int x;\nx = 1 / 0;", L"Startup", -1, child);
+    EXPECT_EQ(r.result, -1);
+    EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 2 des Makros Startup\n\nDivision durch Null\n\n");
+    EXPECT_EQ(unattendedLastOwner(), top);
+    DestroyWindow(top);
+}
+
+// Runs f on a thread whose stack reserve is 1 MB, the default of a host's thread.
+template <class F>
+void onOneMegabyteStack(F f) {
+    struct Job {
+        F *f;
+        static DWORD WINAPI run(void *p) {
+            (*static_cast<Job *>(p)->f)();
+            return 0;
+        }
+    } job{&f};
+    HANDLE t = CreateThread(nullptr, 1 << 20, Job::run, &job, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
+    ASSERT_NE(t, nullptr);
+    WaitForSingleObject(t, INFINITE);
+    DWORD code = 1;
+    GetExitCodeThread(t, &code);
+    CloseHandle(t);
+    EXPECT_EQ(code, 0u);
+}
+
+TEST(WinHost, DeepNestingFailsCleanlyOnAOneMegabyteStack) {
+    std::wstring dir = winScratchDir();
+    winWriteFile(dir + L"\\self.mac", "Macro \"Self\" begin Call(\"" + macroPath(dir) + "\\\\self.mac\"); end");
+    std::u16string blocks;
+    for (int i = 0; i < 5000; ++i) blocks += u"begin ";
+    for (int i = 0; i < 5000; ++i) blocks += u"end ";
+    WinRun recursion, nested;
+    onOneMegabyteStack([&] { nested = winRunMemory(blocks); });
+    EXPECT_EQ(nested.result, -1);
+    EXPECT_NE(nested.output.find("Formelstack ist \xC3\xBC" "bergelaufen"), std::string::npos);
+    onOneMegabyteStack([&] { recursion = winRunFile(u16(utf8(dir) + "\\self.mac")); });
+    EXPECT_EQ(recursion.result, 0);
+    EXPECT_NE(recursion.output.find("Formelstack ist \xC3\xBC" "bergelaufen"), std::string::npos);
+}
+
+// Runs a command line in dir with standard output and error going to one
+// pipe, so printed lines and reported boxes keep their order.
+std::string runCaptured(std::wstring command, const std::wstring &dir, DWORD &exitCode) {
+    SECURITY_ATTRIBUTES sa{sizeof sa, nullptr, TRUE};
+    HANDLE readEnd, writeEnd;
+    if (!CreatePipe(&readEnd, &writeEnd, &sa, 0)) return "no pipe";
+    SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
+    STARTUPINFOW si{};
+    si.cb = sizeof si;
+    si.dwFlags = STARTF_USESTDHANDLES;
+    si.hStdOutput = si.hStdError = writeEnd;
+    PROCESS_INFORMATION pi{};
+    BOOL started = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, dir.c_str(), &si, &pi);
+    CloseHandle(writeEnd);
+    std::string out;
+    char buf[4096];
+    DWORD n;
+    while (started && ReadFile(readEnd, buf, sizeof buf, &n, nullptr) && n) out.append(buf, n);
+    CloseHandle(readEnd);
+    if (!started) return "not started";
+    WaitForSingleObject(pi.hProcess, INFINITE);
+    GetExitCodeProcess(pi.hProcess, &exitCode);
+    CloseHandle(pi.hProcess);
+    CloseHandle(pi.hThread);
+    return out;
+}
+
+TEST(WinHost, MxrunPrintsBoxesInOrderAndAnswersWithItsExitStatus) {
+    std::wstring dir = winScratchDir();
+    winWriteFile(dir + L"\\m.mac", "Macro \"M\" begin Print(1); x = 1; end");
+    winWriteFile(dir + L"\\q.mac", "Macro \"Q\" begin Print(MessageBox(\"T\", \"x\", QUEST, YES + NO)); end");
+    winWriteFile(dir + L"\\q.answers", "no\n");
+    winWriteFile(dir + L"\\c.mac", "Macro \"C\" begin int i; i = ; end");
+    const std::string undeclared = "Variable 'x' ist nicht deklariert";
+    struct Case {
+        const wchar_t *args;
+        std::string out;
+        DWORD code;
+    } cases[] = {
+        {L"--unattended m.mac", "1\nMakrofehler: Fehler in Zeile 1 des Makros m.mac\n\n" + undeclared + "\n\n", 1},
+        {L"--answers q.answers q.mac", "T: x\n8\n", 0},
+        {L"--check c.mac m.mac",
+         "c.mac:1: Der Ausdruck '' ist kein g\xC3\xBCltiger Operand\nm.mac:1: " + undeclared + "\n", 1},
+    };
+    for (const Case &c : cases) {
+        DWORD code = 99;
+        EXPECT_EQ(runCaptured(L"\"" + binDir() + L"\\mxrun.exe\" " + c.args, dir, code), c.out) << utf8(c.args);
+        EXPECT_EQ(code, c.code) << utf8(c.args);
+    }
+}
+
+}  // namespace
