@@ -146,7 +146,7 @@ TEST_F(DdeTest, ConversationsWithTheTestServer) {
 }
 
 TEST_F(DdeTest, TimeOutsAndTheUnsignedWait) {
-    Server &s = start(L"--late 700");
+    Server &s = start(L"--late 300");
     // A negative wait is a very long one; a wait of 0 still posts but reads no answer.
     EXPECT_EQ(run(kOpen + "out = \"old\"; Print(DDEExecute(ch, \"first\", -1)); Print(DDEPoke(ch, \"MxItem\", \"late\", 100));"
                           "Print(DDEExecute(ch, \"zero\", 0)); Print(DDERequest(ch, \"MxItem\", 1, out, 0));"

@@ -92,19 +92,16 @@ void onOneMegabyteStack(F f) {
     EXPECT_EQ(code, 0u);
 }
 
+// Nesting is bounded before a host thread's 1 MB stack runs out (recursion
+// through nested runs is the hardening tests' business).
 TEST(WinHost, DeepNestingFailsCleanlyOnAOneMegabyteStack) {
-    std::wstring dir = winScratchDir();
-    winWriteFile(dir + L"\\self.mac", "Macro \"Self\" begin Call(\"" + macroPath(dir) + "\\\\self.mac\"); end");
     std::u16string blocks;
     for (int i = 0; i < 5000; ++i) blocks += u"begin ";
     for (int i = 0; i < 5000; ++i) blocks += u"end ";
-    WinRun recursion, nested;
+    WinRun nested;
     onOneMegabyteStack([&] { nested = winRunMemory(blocks); });
     EXPECT_EQ(nested.result, -1);
     EXPECT_NE(nested.output.find("Formelstack ist \xC3\xBC" "bergelaufen"), std::string::npos);
-    onOneMegabyteStack([&] { recursion = winRunFile(u16(utf8(dir) + "\\self.mac")); });
-    EXPECT_EQ(recursion.result, 0);
-    EXPECT_NE(recursion.output.find("Formelstack ist \xC3\xBC" "bergelaufen"), std::string::npos);
 }
 
 // Runs a command line in dir with standard output and error going to one

@@ -49,13 +49,11 @@ TEST_F(ReportEngine, PreviewAndPrintGetTheOwnerAndTheLowFlags) {
                      "unload"}));
 }
 
-TEST_F(ReportEngine, EachMissingEntryPointIsNamed) {
-    const std::pair<std::string, std::string> cases[] = {
-        {"Rep_Preview_File", kPreview}, {"Rep_Print_File", "Print(RunReport(\"r\", \"d\", 0));"},
-        {"Rep_Open_Expanded", kExtended}, {"Rep_Close", kExtended}, {"Rep_SetProperty", kExtended},
-        {"Rep_DeclarePrinterOutput", kExtended}, {"Rep_Print_Report", kExtended},
-    };
-    for (const auto &[missing, call] : cases) {
+// The native tests name every missing entry point; here the platform's
+// loader and GetProcAddress answer for a simple and an extended print.
+TEST_F(ReportEngine, AMissingEntryPointIsNamed) {
+    for (const auto &[missing, call] : {std::pair<std::string, const char *>{"Rep_Preview_File", kPreview},
+                                        {"Rep_DeclarePrinterOutput", kExtended}}) {
         std::wstring variant = L"no-" + std::wstring(missing.begin(), missing.end());
         useEngine(variant);
         EXPECT_EQ(run(call), "Makrofehler: s Die Funktion " + missing + " wurde in der dynamischen Bibliothek " +

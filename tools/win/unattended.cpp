@@ -51,4 +51,9 @@ bool unattendedStart(BoxReport report) {
     return hook != nullptr;
 }
 
+void unattendedStop() {
+    if (hook) UnhookWindowsHookEx(hook);
+    hook = nullptr;
+}
+
 void *unattendedLastOwner() { return lastOwner; }

@@ -12,5 +12,9 @@ using BoxReport = void (*)(const std::string &line);
 // standard error). Returns false when it cannot.
 bool unattendedStart(BoxReport report = nullptr);
 
+// Removes the watcher of the calling thread (a test that answers dialogs
+// itself takes over from it).
+void unattendedStop();
+
 // The owner window of the last box reported (absent when it had none).
 void *unattendedLastOwner();

@@ -8,29 +8,21 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "answer_hook.h"
 #include "host_common.h"
+#include "unattended.h"
+#include "win_harness.h"
 
 using mx::DialogKind;
-namespace fs = std::filesystem;
 
 namespace {
 
 std::string captured;
 std::function<void(HWND, DialogKind)> inspect;
-
-std::string utf8(const std::wstring &w) {
-    int n = WideCharToMultiByte(CP_UTF8, 0, w.c_str(), int(w.size()), nullptr, 0, nullptr, nullptr);
-    std::string s(size_t(n), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, w.c_str(), int(w.size()), s.data(), n, nullptr, nullptr);
-    return s;
-}
 
 std::wstring text(HWND w) {
     wchar_t s[4096] = L"";
@@ -62,6 +54,7 @@ std::string run(const std::string &answers, const std::wstring &statements,
     inspect = std::move(look);
     auto line = [](const std::string &l) { captured += l; };
     answersSetReport(line);
+    unattendedStop();  // the answer hook alone answers these runs
     answerHookStart(line, [](HWND w, DialogKind kind) {
         if (inspect) inspect(w, kind);
     });
@@ -115,16 +108,12 @@ int shownList(HWND w) {
     return shown;
 }
 
-// A list file in the scratch folder, as a macro's text constant names it.
+// A file in a scratch folder, named as a macro's text constant names it.
 std::wstring writeList(const std::wstring &name, const std::string &bytes) {
-    wchar_t tmp[MAX_PATH];
-    GetTempPathW(MAX_PATH, tmp);
-    fs::path dir = fs::path(tmp) / ("mxdlg" + std::to_string(GetCurrentProcessId()));
-    fs::create_directories(dir);
-    std::ofstream(dir / name, std::ios::binary) << bytes;
-    std::wstring out;
-    for (wchar_t c : (dir / name).wstring()) out += c == L'\\' ? std::wstring(L"\\\\") : std::wstring(1, c);
-    return out;
+    static std::wstring dir = winScratchDir();
+    winWriteFile(dir + L"\\" + name, bytes);
+    std::string path = macroPath(dir + L"\\" + name);
+    return std::wstring(path.begin(), path.end());
 }
 
 }  // namespace
@@ -354,10 +343,8 @@ TEST(WinDialogs, ListViewDialogColumnsRowsAndStyles) {
 }
 
 TEST(WinDialogs, FileAndFolderChoosers) {
-    wchar_t tmp[MAX_PATH];
-    GetTempPathW(MAX_PATH, tmp);
-    std::wstring dir = tmp, target = dir + L"chosen.txt";
-    std::ofstream(fs::path(target)) << "x";
+    std::wstring dir = winScratchDir() + L"\\", target = dir + L"chosen.txt";
+    winWriteFile(target, "x");
     std::vector<DialogKind> kinds;
     std::string out = run("file " + utf8(target) + "\nfile " + utf8(dir) + "new.txt\ndir C:\\windows\ncancel\n",
                           L"Print(FilenameDialog(s, READ, \"Laden\", \"Texte|*.txt|Alle|*.*\")); Print(s);"
