@@ -1,7 +1,7 @@
 // Files on the real platform: the default profile in the Windows directory,
-// module names and versions, sharing with other openers, and the shared
-// stream and profile cases against the Windows runtime and profile functions
-// themselves (the native tests hold the Linux build to the same cases).
+// module names and versions, sharing with other openers, and the library's
+// reading of mode texts against the runtime's own. What the streams and
+// profiles write is checked by the file cases on both hosts.
 #include <gtest/gtest.h>
 #include <share.h>
 
@@ -11,7 +11,6 @@
 
 #include "platform/file_mode.h"
 #include "tests/native/file_mode_cases.h"
-#include "tests/native/file_profile_cases.h"
 #include "win_harness.h"
 
 namespace fs = std::filesystem;
@@ -75,33 +74,6 @@ TEST_F(WinFiles, AnOpenFileIsBusyForOtherOpeners) {
               "1\n0\ndata\n\n");
 }
 
-TEST_F(WinFiles, RuntimeStreamsWriteAndReadTheSharedCases) {
-    std::wstring name = dir + L"\\w.txt";
-    for (const filecases::WriteCase &c : filecases::writeCases()) {
-        SCOPED_TRACE(utf8(W(c.mode)));
-        DeleteFileW(name.c_str());
-        if (c.before) winWriteFile(name, std::string(c.before, c.beforeSize));
-        FILE *f = _wfsopen(name.c_str(), W(c.mode), _SH_DENYRW);
-        ASSERT_NE(f, nullptr);
-        int r = fputws(W(c.text.c_str()), f);
-        fclose(f);
-        EXPECT_EQ(r < 0 || r == int(WEOF) ? -1 : 0, c.result);
-        EXPECT_EQ(winReadFile(name), c.bytes);
-    }
-    for (const filecases::ReadCase &c : filecases::readCases()) {
-        SCOPED_TRACE(utf8(W(c.mode)) + " capacity " + std::to_string(c.capacity));
-        winWriteFile(name, c.bytes);
-        FILE *f = _wfsopen(name.c_str(), W(c.mode), _SH_DENYRW);
-        ASSERT_NE(f, nullptr);
-        std::vector<std::u16string> lines;
-        wchar_t buf[64];
-        for (int guard = 0; guard < 20 && fgetws(buf, c.capacity, f); ++guard)
-            lines.push_back(reinterpret_cast<const char16_t *>(buf));
-        fclose(f);
-        EXPECT_EQ(lines, c.lines);
-    }
-}
-
 // The library reads mode texts itself before the runtime sees them, so the
 // reading must accept exactly the modes the runtime accepts.
 TEST_F(WinFiles, TheLibrarysModeReadingAgreesWithTheRuntime) {
@@ -118,30 +90,6 @@ TEST_F(WinFiles, TheLibrarysModeReadingAgreesWithTheRuntime) {
         FILE *f = _wfsopen(name.c_str(), W(mode), _SH_DENYNO);
         if (f) fclose(f);
         EXPECT_EQ(mx::fileModeParse(mode).valid, f != nullptr);
-    }
-}
-
-TEST_F(WinFiles, ProfileFunctionsReadAndWriteTheSharedCases) {
-    std::wstring name = dir + L"\\t.ini";
-    winWriteFile(name, filecases::kProfileText);
-    for (const filecases::ProfileReadCase &c : filecases::profileReadCases()) {
-        wchar_t buf[32];
-        std::fill(std::begin(buf), std::end(buf), L'#');
-        DWORD n = GetPrivateProfileStringW(W(c.section), W(c.key), W(c.def), buf, DWORD(c.capacity), name.c_str());
-        EXPECT_EQ(int(n), c.result);
-        EXPECT_EQ(std::u16string(reinterpret_cast<const char16_t *>(buf), c.units.size()), c.units);
-        EXPECT_EQ(buf[c.capacity], L'#');
-    }
-    for (const filecases::ProfileWriteCase &c : filecases::profileWriteCases()) {
-        if (c.fresh) DeleteFileW(name.c_str());
-        EXPECT_EQ(WritePrivateProfileStringW(W(c.section), W(c.key), W(c.value), name.c_str()), c.result);
-        EXPECT_EQ(winReadFile(name), c.file ? std::string(c.file) : std::string());
-        EXPECT_EQ(GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES, c.file != nullptr);
-    }
-    for (const filecases::ProfileRewriteCase &c : filecases::profileRewriteCases()) {
-        winWriteFile(name, c.before);
-        EXPECT_TRUE(WritePrivateProfileStringW(W(c.section), W(c.key), W(c.value), name.c_str()));
-        EXPECT_EQ(winReadFile(name), c.after);
     }
 }
 
