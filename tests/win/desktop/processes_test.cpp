@@ -101,7 +101,8 @@ TEST_F(Processes, TheShellFindsAndRunsTheRegisteredProgram) {
     EXPECT_EQ(lines[3], lines[1].substr(0, 5));  // cut at the capacity
     EXPECT_EQ(std::vector<std::string>(lines.begin() + 4, lines.end()),
               (std::vector<std::string>{"-1", "keep", "-1", "-1", "0"}));
-    EXPECT_NE(written(file).find("a.txt"), std::string::npos);
+    std::string got = written(file);
+    EXPECT_NE(got.find("a.txt"), std::string::npos) << got;
 }
 
 TEST_F(Processes, OpenBrowserHandsTheAddressToTheShellsHandler) {
