@@ -24,26 +24,3 @@ TEST(ErrorBox, MemoryMacrosShowTheirTitleOrNothing) {
     EXPECT_EQ(runMemory(u"int x;\nx = 1 / 0;").output,
               "Makrofehler: Fehler in Zeile 2 des Makros \n\nDivision durch Null\n\n");
 }
-
-TEST(ErrorBox, ArgumentsAreCutAndOnlyFilledInWhenTheyFit) {
-    mx::RunContext ctx;
-    std::u16string longArg(200, u'a');
-    mx::errSet(ctx, 125, longArg.c_str());
-    EXPECT_EQ(mx::toUtf8(ctx.errorArg), std::string(127, 'a'));
-    char16_t text[300];
-    mx::errFormatMessage(ctx, text, 300);
-    EXPECT_EQ(mx::toUtf8(text), "Variable '" + std::string(127, 'a') + "' ist nicht deklariert");
-    // 156 is long enough that a 127-character argument does not fit in 200 units.
-    mx::errSet(ctx, 156, longArg.c_str());
-    mx::errFormatMessage(ctx, text, 300);
-    EXPECT_EQ(mx::toUtf8(text), "s Die Zieldatei der Datenbankselektion  '%s'  kann nicht angelegt werden.");
-    mx::errSet(ctx, 156, u"x.txt");
-    mx::errFormatMessage(ctx, text, 300);
-    EXPECT_EQ(mx::toUtf8(text), "s Die Zieldatei der Datenbankselektion  'x.txt'  kann nicht angelegt werden.");
-    mx::errSet(ctx, 134, u"ignored");
-    mx::errFormatMessage(ctx, text, 300);
-    EXPECT_EQ(mx::toUtf8(text), "Division durch Null");
-    mx::errSet(ctx, 5555, u"x");
-    EXPECT_EQ(mx::errFormatMessage(ctx, text, 300), 0);
-}
-

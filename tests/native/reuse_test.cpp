@@ -7,14 +7,6 @@
 
 #include "macro_harness.h"
 
-namespace {
-
-LONG CALLBACK host(LONG number, MX_VALUE **args, LONG, LONG_PTR) {
-    if (number == 1) harnessPrint(std::to_string(*static_cast<LONG *>(args[0]->data)));
-    return number * 10;
-}
-
-}  // namespace
 
 // A nested run collects and evaluates formulas of its own while the caller's
 // formula is half evaluated; the caller's formula must go on unharmed, on
@@ -29,28 +21,6 @@ TEST(Reuse, AFormulaGoesOnAfterANestedRunInsideIt) {
     MacroRun r = runFile(u16(dir + "/main.mac"));
     EXPECT_EQ(r.result, 0);
     EXPECT_EQ(r.output, "300\n10\n300\n15\n");
-}
-
-// The host may change its table between two runs at the same address: a name
-// whose first character no row of the first table had must be found in the
-// second, and a name gone from it must not.
-TEST(Reuse, AHostTableChangedBetweenRunsIsReadAfresh) {
-    MX_FUNCTION_ROW rows[] = {
-        {u"Print", 1, u"L", u"Value"}, {u"Zeta", 2, u"", u""}, {nullptr, 0, nullptr, nullptr},
-        {nullptr, 0, nullptr, nullptr},
-    };
-    MacroRun first = runMemoryWithHost(u"Print(Zeta());", rows, host);
-    EXPECT_EQ(first.output, "20\n");
-    rows[1].name = u"zeta";
-    MacroRun second = runMemoryWithHost(u"Print(zeta());", rows, host);
-    EXPECT_EQ(second.result, 0);
-    EXPECT_EQ(second.output, "20\n");
-    rows[2] = {u"\u00C4rger", 3, u"", u""};
-    MacroRun grown = runMemoryWithHost(u"Print(\u00C4rger());", rows, host);
-    EXPECT_EQ(grown.output, "30\n");
-    MacroRun third = runMemoryWithHost(u"Print(Zeta());", rows, host);
-    EXPECT_EQ(third.result, -1);
-    EXPECT_NE(third.output.find("Variable 'Zeta' ist nicht deklariert"), std::string::npos);
 }
 
 // Names are told apart from functions by their first character: lower-case
