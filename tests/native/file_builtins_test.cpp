@@ -55,28 +55,6 @@ TEST_F(FileBuiltins, SixthOpenAnswersZeroSilentlyAndAFreedSlotIsReused) {
     EXPECT_EQ(r.output, "1\n2\n3\n4\n5\n0\n0\n3\n1\n1\n1\n1\n1\n1\n1\n");
 }
 
-TEST_F(FileBuiltins, FailedOpenShowsItsBoxAtOnceAndTheMacroGoesOn) {
-    writeFile(path("busy.txt"), "x");
-    std::string missing = path("missing.txt"), busy = path("busy.txt");
-    MacroRun r = run("Print(OpenFile(\"" + missing + "\", \"r\"));\n"
-                     "Print(OpenFile(\"" + busy + "\", \"r\"));\n"
-                     "Print(OpenFile(\"" + busy + "\", \"r\"));\n"
-                     "Print(OpenFile(\"" + busy + "\", \"q\"));\n"
-                     "Print(7);");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 1 des Makros \n\nDie Datei '" + missing +
-                            "' existiert nicht\n\n"
-                            "0\n1\n"
-                            "Makrofehler: Fehler in Zeile 3 des Makros \n\nDie Datei '" +
-                            busy +
-                            "' ist bereits im Zugriff\n\n"
-                            "0\n"
-                            "Makrofehler: Fehler in Zeile 4 des Makros \n\nFehler in Datei '" +
-                            busy +
-                            "'\n\n"
-                            "0\n7\n");
-}
-
 TEST_F(FileBuiltins, OpenErrorKeepsOnly127CharactersOfTheName) {
     RunContext ctx{};
     static std::string box;
@@ -88,41 +66,6 @@ TEST_F(FileBuiltins, OpenErrorKeepsOnly127CharactersOfTheName) {
     EXPECT_EQ(ctx.errorCode, 113);
     EXPECT_EQ(std::u16string(ctx.errorArg), name.substr(0, 127));
     EXPECT_NE(box.find(toUtf8(name.substr(0, 127).c_str()) + "' existiert nicht"), std::string::npos);
-}
-
-TEST_F(FileBuiltins, HandlesThatNameNoStreamTouchNothing) {
-    writeFile(path("a.txt"), "line\n");
-    RunContext ctx{};
-    int32_t h = fsOpenFile(ctx, upath("a.txt").c_str(), u"r");
-    ASSERT_EQ(h, 1);
-    ASSERT_EQ(fsCloseFile(ctx, h), 0);
-    char16_t buf[8] = u"keep";
-    for (int32_t bad : {0, -1, 6, 7, 1000, h}) {
-        SCOPED_TRACE(bad);
-        EXPECT_EQ(fsReadFile(ctx, bad, buf, 8), 1);
-        EXPECT_EQ(buf[0], 0);
-        EXPECT_EQ(fsWriteFile(ctx, bad, u"x"), -1);
-        EXPECT_EQ(fsCloseFile(ctx, bad), -1);
-    }
-    for (MxpFile *f : ctx.files) EXPECT_EQ(f, nullptr);
-    EXPECT_EQ(readFile(path("a.txt")), "line\n");
-}
-
-TEST_F(FileBuiltins, LongLinesComeInPiecesAndTheEndAnswersOne) {
-    writeFile(path("long.txt"), "abcdefgh\r\nxy");
-    MacroRun r = run("char s[4]; int h; int rc; h = OpenFile(\"" + path("long.txt") + "\", \"r\");\n"
-                     "rc = ReadFile(h, s); while (rc == 0) { Print(s); rc = ReadFile(h, s); }\n"
-                     "Print(rc); Print(ReadFile(h, s)); CloseFile(h);");
-    EXPECT_EQ(r.output, "abc\ndef\ngh\n\nxy\n1\n1\n");
-}
-
-TEST_F(FileBuiltins, WriteFileWritesExactlyItsText) {
-    MacroRun r = run("int h; h = OpenFile(\"" + path("w.txt") + "\", \"w\");\n"
-                     "Print(WriteFile(h, \"abc\")); Print(WriteFile(h, \"\")); CloseFile(h);\n"
-                     "h = OpenFile(\"" + path("r.txt") + "\", \"r\"); Print(WriteFile(h, \"x\"));");
-    EXPECT_EQ(readFile(path("w.txt")), "abc");
-    EXPECT_NE(r.output.find("0\n0\n"), std::string::npos);
-    EXPECT_EQ(r.output.substr(r.output.size() - 3), "-1\n") << "a read-only stream refuses writing";
 }
 
 TEST_F(FileBuiltins, FilesOfARunAndOfANestedRunAreClosedAtTheirEnd) {
@@ -175,18 +118,6 @@ TEST_F(FileBuiltins, CopyReplacesTheDestinationAndNeedsItsSource) {
     ASSERT_EQ(fsOpenFile(ctx, upath("dst.bin").c_str(), u"r"), 1);
     EXPECT_EQ(foCopyFile(upath("dst.bin").c_str(), upath("copy.bin").c_str()), 1) << "an open file is busy";
     fsCloseFile(ctx, 1);
-}
-
-TEST_F(FileBuiltins, RenameMovesButNeverOverwrites) {
-    writeFile(path("a"), "A");
-    writeFile(path("b"), "B");
-    fs::create_directory(path("sub"));
-    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("b").c_str()), 1);
-    EXPECT_EQ(readFile(path("b")), "B");
-    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("sub/a2").c_str()), 0);
-    EXPECT_EQ(readFile(path("sub/a2")), "A");
-    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("c").c_str()), 1);
-    EXPECT_EQ(foRenameFile(u"", upath("c").c_str()), 1);
 }
 
 TEST_F(FileBuiltins, DeleteAlwaysAnswersZero) {
@@ -258,17 +189,6 @@ TEST_F(FileBuiltins, TempFileNamesAreNewEmptyFilesStartingWithMX) {
     EXPECT_EQ(std::distance(fs::directory_iterator(tmp), fs::directory_iterator()), 2);
 }
 
-TEST_F(FileBuiltins, CreateDirectoryMakesTheWholeChain) {
-    EXPECT_EQ(foCreateDirectory(upath("a/b/c").c_str()), 0);
-    EXPECT_TRUE(fs::is_directory(path("a/b/c")));
-    EXPECT_EQ(foCreateDirectory(upath("a/b/c/").c_str()), 0) << "an existing directory is success";
-    writeFile(path("file"), "x");
-    EXPECT_EQ(foCreateDirectory(upath("file/sub").c_str()), -1);
-    EXPECT_EQ(foCreateDirectory(upath("file").c_str()), -1);
-    EXPECT_EQ(foCreateDirectory(u""), -1);
-}
-
-
 struct FileLists : ::testing::Test {
     std::string dir = scratchDir();
     std::string out = scratchDir() + "/list.txt";
@@ -317,33 +237,6 @@ TEST_F(FileLists, ScanMatchesIncludeAndExcludeLists) {
         EXPECT_EQ(readFile(out), expected);
     }
 }
-
-TEST_F(FileLists, ScanOfAMissingDirectoryWritesNothing) {
-    EXPECT_EQ(flScanDirectory(fromUtf8(dir + "/none").c_str(), u"*", u"", fromUtf8(out).c_str(), 1, 0), 0);
-    EXPECT_FALSE(fs::exists(out));
-    EXPECT_EQ(
-        flScanDirectory(fromUtf8(dir).c_str(), u"*", u"", fromUtf8(dir + "/no/such/list").c_str(), 1, 0), 0);
-}
-
-TEST_F(FileLists, MakeFilelistTakesDirectoryAndPatternFromTheWildcard) {
-    EXPECT_EQ(flMakeFilelist(fromUtf8(dir + "/a*.txt").c_str(), 0, fromUtf8(out).c_str()), 0);
-    EXPECT_EQ(readFile(out), listed({"a.txt", "ab.txt"}));
-    EXPECT_EQ(flMakeFilelist(fromUtf8(dir + "/sub/*").c_str(), 1, fromUtf8(out).c_str()), 0);
-    EXPECT_EQ(readFile(out), listed({"sub/d.txt", "sub/f.log", "sub/deep/e.txt"}));
-    EXPECT_EQ(flMakeFilelist(fromUtf8(dir + "/none/*").c_str(), 1, fromUtf8(out).c_str()), 1);
-}
-
-TEST_F(FileLists, WildcardWithoutDirectoryScansTheCurrentDirectory) {
-    std::string cwd = fs::current_path().string();
-    ASSERT_EQ(chdir((dir + "/sub").c_str()), 0);
-    MacroRun r = runMemory(u16("Print(MakeFilelist(\"*.log\", 0, \"" + out + "\"));"
-                               "Print(ScanDirectory(\"deep\", \"*\", \"\", \"" + out + "2\", 0, 0));"));
-    ASSERT_EQ(chdir(cwd.c_str()), 0);
-    EXPECT_EQ(r.output, "0\n1\n");
-    EXPECT_EQ(readFile(out), listed({"sub/f.log"}));
-    EXPECT_EQ(readFile(out + "2"), listed({"sub/deep/e.txt"}));
-}
-
 
 struct SpecialFiles : ::testing::Test {
     std::string dir = scratchDir();

@@ -383,20 +383,6 @@ TEST(FilePaths, CurrentPathAnswersLikeThePlatform) {
     fs::remove_all(dir);
 }
 
-TEST(FilePaths, ShortNamesAreThePathsThemselves) {
-    std::string dir = scratchDir();
-    writeFile(dir + "/a long name.txt", "x");
-    std::u16string name = fromUtf8(dir + "/a long name.txt");
-    char16_t buf[256];
-    EXPECT_EQ(mdLongToShortFilename(name.c_str(), buf, 256), int32_t(name.size()));
-    EXPECT_EQ(std::u16string(buf), name);
-    char16_t small[4] = u"old";
-    EXPECT_EQ(mdLongToShortFilename(name.c_str(), small, 4), int32_t(name.size()) + 1);
-    EXPECT_EQ(std::u16string(small), u"old");
-    EXPECT_EQ(mdLongToShortFilename(fromUtf8(dir + "/missing").c_str(), buf, 256), 0);
-    fs::remove_all(dir);
-}
-
 TEST(FilePaths, FilesWithoutVersionResourceAnswerTwo) {
     char16_t buf[16] = u"old";
     EXPECT_EQ(mdGetModuleVersion(u"/proc/self/exe", buf, 16, u"%d.%d"), 2);

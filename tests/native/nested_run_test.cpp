@@ -19,25 +19,6 @@ struct NestedRuns : ::testing::Test {
 
 }  // namespace
 
-TEST_F(NestedRuns, ParametersReachTheNestedMacro) {
-    put("sub.mac",
-        "Macro \"Sub\" begin char s[20]; int r; r = GetMacroParameter(2, s); Print(r); Print(s);"
-        " r = GibMakroParameter(3, s); Print(r); Print(s); end");
-    MacroRun r = run("int x; x = Call(\"" + dir + "/sub.mac eins zwei\"); Print(x);");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(r.output, "0\nzwei\n1\nzwei\n0\n");
-}
-
-TEST_F(NestedRuns, CallWithParamsQuotesEveryPart) {
-    put("p.mac",
-        "Macro \"P\" begin char s[20]; int n; n = 1; while (n < 7) begin"
-        " if (GetMacroParameter(n, s) == 0) Print(s); if (GetMacroParameter(n, s) != 0) Print(\"-none-\");"
-        " n = n + 1; end end");
-    MacroRun r = run("CallWithParams(\"" + dir + "/p.mac\", \"a b\", \"\", \"c\", \"\", \"\");");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(r.output, "a b\n\nc\n\n\n-none-\n");
-}
-
 TEST_F(NestedRuns, LocalsAreOwnStaticsAreShared) {
     put("sub.mac",
         "Macro \"Sub\" begin int local; local = 5; if (IsDeclared(\"nestShared\") == 0) static int nestShared;"
@@ -51,13 +32,6 @@ TEST_F(NestedRuns, LocalsAreOwnStaticsAreShared) {
     EXPECT_EQ(r.result, 0);
     EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 1 des Makros " + dir +
                             "/main.mac\n\nVariable 'local' ist nicht deklariert\n\n-1\n2\n");
-}
-
-TEST_F(NestedRuns, AFailedNestedMacroShowsItsBoxAndTheCallerGoesOn) {
-    MacroRun r = run("Print(Call(\"" + dir + "/missing.mac\")); Print(3);");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 1 des Makros " + dir + "/main.mac\n\nDie Datei '" + dir +
-                            "/missing.mac' existiert nicht\n\n-1\n3\n");
 }
 
 TEST_F(NestedRuns, MemoryMacrosHaveNoParameters) {

@@ -95,17 +95,6 @@ TEST_F(Profiles, BareNamesLiveInTheWindowsDirectory) {
     fs::remove(windows + "/bare.ini");
 }
 
-TEST_F(Profiles, AFileOpenedExclusivelyCannotBeReadOrWritten) {
-    writeFile(file, "[s]\r\nk=v\r\n");
-    MxpFile *f = mxp_FileOpen(ufile.c_str(), u"r", Share::kDenyReadWrite, nullptr);
-    char16_t buf[8];
-    EXPECT_EQ(mxp_ProfileRead(ufile.c_str(), u"s", u"k", u"d", buf, 8), 1);
-    EXPECT_EQ(std::u16string(buf), u"d");
-    EXPECT_EQ(mxp_ProfileWrite(ufile.c_str(), u"s", u"k", u"w"), 0);
-    mxp_FileClose(f);
-    EXPECT_EQ(readFile(file), "[s]\r\nk=v\r\n");
-}
-
 TEST_F(Profiles, DefaultProfileIsNamedAfterTheHostModule) {
     char16_t name[kProfileNameCapacity];
     pfDefaultProfile(nullptr, name);
@@ -244,35 +233,6 @@ TEST_F(Registry, ColoursPackTheLowBytes) {
     EXPECT_EQ(b, 0x1E);
 }
 
-TEST_F(Registry, OtherRootsSelectNoHive) {
-    for (int32_t root : {0, 3, -1, INT32_MIN + 1}) {
-        SCOPED_TRACE(root);
-        char16_t buf[8];
-        EXPECT_EQ(rgWriteString(root, u"K", u"N", u"v"), 0);
-        EXPECT_EQ(rgReadString(root, u"K", u"N", u"d", buf, 8), 0);
-        EXPECT_EQ(std::u16string(buf), u"d");
-        EXPECT_EQ(rgDeleteItem(root, u"K", u"N"), -1);
-        EXPECT_EQ(rgDeleteKey(root, u"K"), 0);
-    }
-    EXPECT_FALSE(fs::exists(dir)) << "nothing was stored";
-}
-
-TEST_F(Registry, DeletionNeedsTheValueAndSparesKeysWithSubkeys) {
-    rgWriteInt(1, u"A\\B\\C", u"x", 1);
-    rgWriteInt(1, u"A\\B", u"y", 2);
-    EXPECT_EQ(rgDeleteItem(1, u"A\\B", u"missing"), -1);
-    EXPECT_EQ(rgDeleteItem(1, u"A\\Z", u"y"), -1);
-    EXPECT_EQ(rgDeleteItem(1, u"a\\b", u"Y"), 0);
-    EXPECT_EQ(rgReadInt(1, u"A\\B", u"y", -1), -1);
-    EXPECT_EQ(mxp_RegDeleteKey(RegRoot::kCurrentUser, u"A\\B"), -1) << "it has a subkey";
-    EXPECT_EQ(rgReadInt(1, u"A\\B\\C", u"x", -1), 1);
-    EXPECT_EQ(mxp_RegDeleteKey(RegRoot::kCurrentUser, u"A\\B\\C"), 0);
-    EXPECT_EQ(rgReadInt(1, u"A\\B\\C", u"x", -1), -1);
-    EXPECT_EQ(mxp_RegDeleteKey(RegRoot::kCurrentUser, u"A\\B"), 0);
-    EXPECT_EQ(mxp_RegDeleteKey(RegRoot::kCurrentUser, u"A\\B"), -1);
-    EXPECT_EQ(rgDeleteKey(1, u"A\\B"), 0) << "the built-in answers 0 anyway";
-}
-
 TEST_F(Registry, KeyNamesHaveAtMost255Characters) {
     std::u16string ok = u"Software\\" + std::u16string(255, u'k');
     std::u16string tooLong = u"Software\\" + std::u16string(256, u'k');
@@ -281,25 +241,6 @@ TEST_F(Registry, KeyNamesHaveAtMost255Characters) {
     EXPECT_EQ(rgReadInt(1, ok.c_str(), u"n", -1), 1);
     EXPECT_EQ(rgReadInt(1, tooLong.c_str(), u"n", -1), -1);
     EXPECT_EQ(rgDeleteItem(1, tooLong.c_str(), u"n"), -1);
-}
-
-TEST_F(Registry, MacrosReachTheRegistryByName) {
-    MacroRun r = runMemory(
-        u"char s[20]; int red; int green; int blue;"
-        u"WriteStringToRegistry(HKCU, \"Software\\\\Mx\", \"S\", \"text\");"
-        u"ReadStringFromRegistry(HKEY_CURRENT_USER, \"Software\\\\Mx\", \"S\", \"d\", s); Print(s);"
-        u"WriteIntToRegistry(HKCU, \"Software\\\\Mx\", \"I\", 77);"
-        u"Print(ReadIntFromRegistry(HKCU, \"Software\\\\Mx\", \"I\", 0));"
-        u"red = 1; green = 2; blue = 3;"
-        u"Print(ReadColorFromRegistry(HKCU, \"Software\\\\Mx\", \"C\", red, green, blue));"
-        u"WriteColorToRegistry(HKCU, \"Software\\\\Mx\", \"C\", 4, 5, 6);"
-        u"Print(ReadColorFromRegistry(HKCU, \"Software\\\\Mx\", \"C\", red, green, blue));"
-        u"Print(blue);"
-        u"Print(DeleteRegistryItem(3, \"Software\\\\Mx\", \"I\"));"
-        u"Print(DeleteRegistryItem(HKCU, \"Software\\\\Mx\", \"I\"));"
-        u"Print(ReadIntFromRegistry(HKCU, \"Software\\\\Mx\", \"I\", -9));"
-        u"Print(DeleteRegistryKey(HKCU, \"Software\"));");
-    EXPECT_EQ(r.output, "text\n77\n197121\n394500\n6\n-1\n0\n-9\n0\n");
 }
 
 TEST_F(Registry, TheCurrentUserHelperJoinsKeyAndSubkey) {
