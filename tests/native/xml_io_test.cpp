@@ -356,18 +356,6 @@ TEST(XmlWriter, WorkedExampleWithoutIndentationAndAsHtml) {
     xmlDelete(doc);
 }
 
-TEST(XmlWriter, HtmlExampleWithVoidElements) {
-    int32_t doc = xmlCreate(u"html", u"");
-    int32_t body = xmlAddChild(xmlGetRoot(doc), u"body", u"");
-    xmlSetAttr(xmlAddChild(body, u"img", u""), u"src", u"a.png");
-    xmlAddChild(body, u"p", u"Hi");
-    xmlAddChild(body, u"br", u"");
-    EXPECT_EQ(writtenByHandle(doc, XMLWF_HTML),
-              crlf({"<!DOCTYPE HTML>", "", "<html>", "<body>", "<img src=\"a.png\">", "<p>Hi</p>",
-                    "<br></br>", "</body>", "</html>"}));
-    xmlDelete(doc);
-}
-
 TEST(XmlWriter, VoidElementsIgnoreCaseKeepTextAndCloseWithChildren) {
     auto d = xmltest::newDocument(u"html");
     child(d->root, u"IMG");
@@ -750,16 +738,6 @@ TEST(XmlParser, LoadDocumentReportsFileErrors) {
     EXPECT_EQ(LoadDocument(d.get(), mx::fromUtf8(bad).c_str(), &line, &column), XMLERR_NOENDTAG);
     EXPECT_EQ(line, 4);
     EXPECT_EQ(column, 10);
-}
-
-TEST(XmlParser, HtmlOutputDoesNotLoad) {
-    Doc d = xmltest::newDocument(u"html");
-    child(d->root, u"p", u"x");
-    xmltest::written(d.get(), XMLWF_HTML, nullptr, "page.html");
-    int32_t line, column;
-    Doc back(CreateDocument());
-    EXPECT_EQ(LoadDocument(back.get(), mx::fromUtf8(xmltest::tempPath("page.html")).c_str(), &line, &column),
-              XMLERR_NOPROLOG);
 }
 
 // Written without HTML, loaded back: every name, value and comment, and

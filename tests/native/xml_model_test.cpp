@@ -208,52 +208,6 @@ std::string writeBytes(int32_t doc, int32_t flags = 0, int32_t *result = nullptr
 
 }  // namespace
 
-TEST(XmlFunctions, CreateNamesTheEncodingFromItsCode) {
-    struct Case {
-        const char16_t *code;
-        const char *declared;
-    } cases[] = {{u"", "ISO-8859-15"},     {u"  ", "ISO-8859-15"}, {nullptr, "ISO-8859-15"},
-                 {u"EBCDIC", "ISO-8859-15"}, {u"utf8", "UTF-8"},    {u"windows-1252", "WINDOWS-1252"}};
-    for (const Case &c : cases) {
-        int32_t doc = xmlCreate(u"r", c.code);
-        ASSERT_GT(doc, 0);
-        EXPECT_EQ(writeBytes(doc), std::string("<?xml version=\"1.0\" encoding=\"") + c.declared +
-                                       "\"?>\r\n<r/>\r\n");
-        xmlDelete(doc);
-    }
-}
-
-TEST(XmlFunctions, RootHandleIsStableAndChildrenGetNewHandles) {
-    int32_t doc = xmlCreate(u"r", u"UTF-8");
-    int32_t root = xmlGetRoot(doc);
-    EXPECT_NE(root, 0);
-    EXPECT_NE(root, doc);
-    EXPECT_EQ(xmlGetRoot(doc), root);
-    int32_t a = xmlAddChild(root, u"a", u"1");
-    int32_t b = xmlAddChild(root, u"b", u"2");
-    EXPECT_NE(a, 0);
-    EXPECT_NE(a, b);
-    EXPECT_EQ(xmlSetAttr(a, u"k", u"v"), 1);
-    EXPECT_EQ(xmlSetAttr(a, u"k", u"w"), 1);
-    int32_t unnamed = xmlAddChild(a, u"", u"kept but not written");
-    EXPECT_NE(unnamed, 0);
-    EXPECT_NE(unnamed, b);
-    EXPECT_EQ(writeBytes(doc), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<r>\r\n<a k=\"w\">\r\n1\r\n"
-                               "</a>\r\n<b>2</b>\r\n</r>\r\n");
-    EXPECT_EQ(xmlDelete(doc), 1);
-}
-
-TEST(XmlFunctions, ZeroHandlesFailQuietly) {
-    BoxCapture boxes;
-    EXPECT_EQ(xmlAddChild(0, u"a", u"b"), 0);
-    EXPECT_EQ(xmlSetAttr(0, u"a", u"b"), 2);
-    EXPECT_EQ(xmlDelete(0), 1);
-    EXPECT_EQ(xmlGetRoot(0), 0);
-    EXPECT_EQ(xmlWriteFile(0, mx::fromUtf8(xmltest::tempPath("zero.xml")).c_str(), 0), 2);
-    EXPECT_EQ(boxes.text(), "");
-    EXPECT_EQ(readFile(xmltest::tempPath("zero.xml")), "");  // nothing created
-}
-
 // After XMLDelete no handle of the document works, none is reused, and
 // handles of a document never work as node handles or the reverse.
 TEST(XmlFunctions, StaleForeignAndWrongKindHandlesFailWithoutEffect) {
