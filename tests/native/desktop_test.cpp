@@ -102,13 +102,6 @@ TEST(DesktopNative, CreateProcessStartsWithoutWaitingAndLeavesNoChild) {
     fs::remove_all(dir);
 }
 
-TEST(DesktopNative, TheShellHasNoAssociationsWithoutADesktop) {
-    MacroRun r = run("char p[50]; p = \"keep\"; Print(ShellExecute(\"a.txt\", \"open\", 1));"
-                     "Print(FindExecutable(\"a.txt\", p)); Print(p);");
-    EXPECT_EQ(r.output, "-1\n-1\nkeep\n");
-}
-
-
 namespace {
 
 struct Mail : ::testing::Test {
