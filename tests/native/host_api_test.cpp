@@ -171,6 +171,18 @@ TEST(HostCall, AbortEndsTheRunWithoutABox) {
     EXPECT_EQ(r.result, 0);
 }
 
+TEST(HostCall, AnAbortedNestedRunShowsItsBox) {
+    std::string dir = scratchDir(), main = dir + "/abort.mac";
+    writeFile(dir + "/sub.mac", "Macro \"Sub\" begin Print(1); Print(2); end");
+    writeFile(main, "Macro \"A\" begin Call(\"" + dir + "/sub.mac\"); Print(5); end");
+    MacroRun r = runFile(u16(main), 1, 2);
+    EXPECT_EQ(r.result, -2);
+    // The nested run is aborted after its second call and shows its box; the
+    // caller's next question to the abort callback ends the whole run.
+    EXPECT_EQ(r.output, "1\n2\nMakrofehler: Fehler in Zeile 1 des Makros " + main +
+                            "\n\nDas Makro wurde abgebrochen\n\n");
+}
+
 // The host may change its table between two runs at the same address: a name
 // whose first character no row of the first table had must be found in the
 // second, and a name gone from it must not.
@@ -191,6 +203,19 @@ TEST(HostCall, AHostTableChangedBetweenRunsIsReadAfresh) {
     MacroRun third = runMemoryWithHost(u"Print(Zeta());", rows, tableHost);
     EXPECT_EQ(third.result, -1);
     EXPECT_NE(third.output.find("Variable 'Zeta' ist nicht deklariert"), std::string::npos);
+}
+
+// The box names the line and the whole command of a file macro.
+TEST(ErrorBox, NamesLineMacroAndMessage) {
+    std::string dir = scratchDir();
+    writeFile(dir + "/a.mac", "Macro \"A\" begin\n\n\n\n\n\nzahl1 = 3;\nend\n");
+    MacroRun r = runFile(u16(dir + "/a.mac 1 2"));
+    EXPECT_EQ(r.result, -1);
+    EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 7 des Makros " + dir +
+                            "/a.mac 1 2\n\nVariable 'zahl1' ist nicht deklariert\n\n");
+    writeFile(dir + "/b.mac", "macro \"B\" begin end");
+    EXPECT_EQ(runFile(u16(dir + "/b.mac")).output,
+              "Makrofehler: Fehler in Zeile 1 des Makros " + dir + "/b.mac\n\nSchlüsselwort 'Macro' fehlt\n\n");
 }
 
 TEST(ErrorBox, ArgumentsAreCutAndOnlyFilledInWhenTheyFit) {
