@@ -4,6 +4,9 @@
 // ends by checking that no atom of its names is left in the global atom table.
 #include <gtest/gtest.h>
 
+#include <windows.h>
+#include <shlobj.h>
+
 #include <deque>
 
 #include "win_harness.h"
@@ -207,23 +210,28 @@ TEST_F(DdeTest, ProgramStartOnlyWhenNobodyAnsweredABroadcast) {
 }
 
 // Wine's shell answers DDE on "Progman" once the session has a desktop. It
-// knows commands in brackets, refuses others, and lists its groups as 8-bit
-// text; the library copies every text value as UTF-16 units, so each unit
-// holds two of its characters.
+// lists its groups (the folders of the start menu) as 8-bit text, which the
+// library copies as UTF-16 units, each holding two of its characters; it
+// deletes a group on command and refuses commands it does not know. (The
+// test makes the group itself: the shell's own CreateGroup opens a window.)
 TEST_F(DdeTest, ConversationWithTheShell) {
+    wchar_t programs[MAX_PATH];
+    ASSERT_EQ(SHGetFolderPathW(nullptr, CSIDL_PROGRAMS, nullptr, 0, programs), S_OK);
+    std::wstring group = std::wstring(programs) + L"\\Morvix Test";
+    ASSERT_TRUE(CreateDirectoryW(group.c_str(), nullptr) || GetLastError() == ERROR_ALREADY_EXISTS);
     std::string got = run("char groups[2000]; ch = DDEInitiate(\"Progman\", \"Progman\", 0, 0, 0); Print(ch != 0);"
-                          "Print(DDEExecute(ch, \"[CreateGroup(Morvix Test)]\", 10000));"
                           "Print(DDEExecute(ch, \"[NoSuchCommand(1)]\", 10000));"
                           "Print(DDERequest(ch, \"Groups\", 1, groups, 10000)); Print(groups);"
                           "Print(DDEExecute(ch, \"[DeleteGroup(Morvix Test)]\", 10000)); Print(DDETerminate(ch));");
-    size_t groups = got.find("\n", 9);
-    ASSERT_EQ(got.substr(0, 9), "1\n0\n-1\n0\n") << got;
+    size_t groups = got.find("\n", 7);
+    ASSERT_EQ(got.substr(0, 7), "1\n-1\n0\n") << got;
     ASSERT_NE(groups, std::string::npos);
     EXPECT_EQ(got.substr(groups), "\n0\n0\n") << got;
-    std::u16string units = u16(got.substr(9, groups - 9));
     std::string bytes;
-    for (char16_t u : units) bytes += {char(u & 0xFF), char(u >> 8)};
+    for (char16_t u : u16(got.substr(7, groups - 7))) bytes += {char(u & 0xFF), char(u >> 8)};
     EXPECT_NE(bytes.find("Morvix Test\r\n"), std::string::npos) << got;
+    EXPECT_EQ(GetFileAttributesW(group.c_str()), INVALID_FILE_ATTRIBUTES);
+    RemoveDirectoryW(group.c_str());
 }
 
 }  // namespace

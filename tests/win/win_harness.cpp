@@ -41,7 +41,6 @@ const WinExports &dll() {
         WinExports x{};
         x.dll = LoadLibraryW(L"morvix32w.dll");
         x.runMacro = entry<decltype(x.runMacro)>(x.dll, "Run_Macro");
-        x.runMemMacro = entry<decltype(x.runMemMacro)>(x.dll, "Run_MemMacro");
         x.runMemMacroExt = entry<decltype(x.runMemMacroExt)>(x.dll, "Run_MemMacroExt");
         x.getMacroHeader = entry<decltype(x.getMacroHeader)>(x.dll, "Get_MacroHeader");
         x.getMacroLibVersion = entry<decltype(x.getMacroLibVersion)>(x.dll, "Get_MacroLib_Version");
@@ -53,8 +52,6 @@ const WinExports &dll() {
     }();
     return e;
 }
-
-void winPrint(const std::string &line) { captured += line + "\n"; }
 
 WinRun winRunMemory(const std::u16string &text, const wchar_t *title, long abortAfter, HWND window) {
     return capture(abortAfter, [&](MX_ABORT_CALLBACK abort) {

@@ -12,7 +12,6 @@
 struct WinExports {
     HMODULE dll;
     decltype(&Run_Macro) runMacro;
-    decltype(&Run_MemMacro) runMemMacro;
     decltype(&Run_MemMacroExt) runMemMacroExt;
     decltype(&Get_MacroHeader) getMacroHeader;
     decltype(&Get_MacroLib_Version) getMacroLibVersion;
@@ -39,9 +38,6 @@ WinRun winRunFile(const std::u16string &command, int country = 1, long abortAfte
 // Runs a memory macro (UTF-8) with window as the host's window; returns what
 // it printed (boxes included), followed by "result: N" when the run failed.
 std::string runIn(HWND window, const std::string &text);
-
-// Appends a line to the captured output (for host callbacks of tests).
-void winPrint(const std::string &line);
 
 // A fresh empty directory (Windows path).
 std::wstring winScratchDir();
