@@ -228,7 +228,7 @@ TEST_F(DdeTest, ConversationWithTheShell) {
     ASSERT_NE(groups, std::string::npos);
     EXPECT_EQ(got.substr(groups), "\n0\n0\n") << got;
     std::string bytes;
-    for (char16_t u : u16(got.substr(7, groups - 7))) bytes += {char(u & 0xFF), char(u >> 8)};
+    for (char16_t u : utf16(got.substr(7, groups - 7))) bytes += {char(u & 0xFF), char(u >> 8)};
     EXPECT_NE(bytes.find("Morvix Test\r\n"), std::string::npos) << got;
     EXPECT_EQ(GetFileAttributesW(group.c_str()), INVALID_FILE_ATTRIBUTES);
     RemoveDirectoryW(group.c_str());

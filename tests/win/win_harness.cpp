@@ -69,7 +69,7 @@ WinRun winRunFile(const std::u16string &command, int country, long abortAfter, H
 }
 
 std::string runIn(HWND window, const std::string &text) {
-    WinRun r = winRunMemory(u16(text), nullptr, -1, window);
+    WinRun r = winRunMemory(utf16(text), nullptr, -1, window);
     return r.result == 0 ? r.output : r.output + "result: " + std::to_string(r.result) + "\n";
 }
 
@@ -107,7 +107,7 @@ std::string utf8(const std::wstring &s) {
     return out;
 }
 
-std::u16string u16(const std::string &text) {
+std::u16string utf16(const std::string &text) {
     int n = MultiByteToWideChar(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0);
     std::u16string out(size_t(n), u'\0');
     MultiByteToWideChar(CP_UTF8, 0, text.data(), int(text.size()), reinterpret_cast<wchar_t *>(out.data()), n);

@@ -48,7 +48,7 @@ std::string winReadFile(const std::wstring &path);
 void winWriteFile(const std::wstring &path, const std::string &bytes);
 
 std::string utf8(const std::wstring &s);
-std::u16string u16(const std::string &utf8Text);
+std::u16string utf16(const std::string &utf8Text);
 // A Windows path inside a macro's text constant (UTF-8, backslashes doubled).
 std::string macroPath(const std::wstring &path);
 // A window handle or pointer as a macro or a log shows it.

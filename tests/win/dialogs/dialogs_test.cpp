@@ -8,21 +8,15 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
-#include "answer_hook.h"
-#include "host_common.h"
-#include "unattended.h"
+#include "answered_run.h"
 #include "win_harness.h"
 
 using mx::DialogKind;
 
 namespace {
-
-std::string captured;
-std::function<void(HWND, DialogKind)> inspect;
 
 std::wstring text(HWND w) {
     wchar_t s[4096] = L"";
@@ -30,42 +24,10 @@ std::wstring text(HWND w) {
     return s;
 }
 
-LONG CALLBACK print(LONG number, MX_VALUE **args, LONG count, LONG_PTR) {
-    if (number == 1 && count == 1) captured += hostFormatValue(args[0]) + "\n";
-    return 0;
-}
-
-// The host's own window: owner of the dialogs.
-HWND hostWindow() {
-    static HWND w = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 300, 200,
-                                    nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
-    return w;
-}
-
-// Runs the statements with the answer script; returns the Print lines, the
-// boxes and the notes of the script, and after them "result: N".
-std::string run(const std::string &answers, const std::wstring &statements,
-                std::function<void(HWND, DialogKind)> look = nullptr, HWND window = nullptr) {
-    static auto runMem = reinterpret_cast<decltype(&Run_MemMacro)>(
-        GetProcAddress(LoadLibraryW(L"morvix32w.dll"), "Run_MemMacro"));
-    std::string error;
-    EXPECT_TRUE(answersParse(answers, error)) << error;
-    captured.clear();
-    inspect = std::move(look);
-    auto line = [](const std::string &l) { captured += l; };
-    answersSetReport(line);
-    unattendedStop();  // the answer hook alone answers these runs
-    answerHookStart(line, [](HWND w, DialogKind kind) {
-        if (inspect) inspect(w, kind);
-    });
-    std::wstring macro = L"int n; char s[300]; char a[300]; char b[300];\n" + statements;
-    LONG r = runMem(GetModuleHandleW(nullptr), window ? window : hostWindow(), macro.c_str(), kHostTable, print,
-                    nullptr, 0, 1, 0);
-    answerHookStop();
-    answersSetReport(nullptr);
-    inspect = nullptr;
-    EXPECT_EQ(answersLeft(), 0u) << "every answer is used";
-    return captured + "result: " + std::to_string(r) + "\n";
+// Runs the statements after a few declarations with the answer script.
+std::string run(const std::string &answers, const std::wstring &statements, DialogLook look = nullptr,
+                HWND window = answeredHost()) {
+    return runAnswered(answers, utf8(L"int n; char s[300]; char a[300]; char b[300];\n" + statements), look, window);
 }
 
 // Shown as far as the window itself goes (a dialog is shown only once its
@@ -146,7 +108,7 @@ TEST(WinDialogs, MessageBoxesShowTheButtonSetsAndIcons) {
 }
 
 TEST(WinDialogs, MessageBoxBelongsToTheFocusedTopLevelWindowAndGivesTheFocusBack) {
-    HWND host = hostWindow();
+    HWND host = answeredHost();
     HWND edit = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 5, 5, 100, 20, host, nullptr, nullptr, nullptr);
     SetForegroundWindow(host);
     SetFocus(edit);
@@ -161,7 +123,7 @@ TEST(WinDialogs, MessageBoxBelongsToTheFocusedTopLevelWindowAndGivesTheFocusBack
 }
 
 TEST(WinDialogs, InputDialogTemplateTextsFocusAndCentre) {
-    HWND host = hostWindow();
+    HWND host = answeredHost();
     HWND child = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, host, nullptr, nullptr, nullptr);
     bool seen = false;
     std::string out = run("text 12x\n", L"n = 42; Print(IntDialog(\"Zahl\", \"Eine Zahl:\", n)); Print(n);",

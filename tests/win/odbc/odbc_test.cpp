@@ -19,7 +19,7 @@ class OdbcWine : public ::testing::TestWithParam<Database> {};
 
 std::string utf16le(const std::string &text) {
     std::string out;
-    for (char16_t c : u16(text)) out += {char(c & 0xFF), char(c >> 8)};
+    for (char16_t c : utf16(text)) out += {char(c & 0xFF), char(c >> 8)};
     return out;
 }
 
