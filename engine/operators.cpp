@@ -4,6 +4,7 @@
 
 #include "engine/errors.h"
 #include "engine/trace.h"
+#include "engine/text_end.h"
 #include "engine/value.h"
 
 namespace mx {
@@ -98,6 +99,7 @@ Value *assign(RunContext &ctx, Value *left, Value *right) {
     if (left->kind != kReference) return fail(ctx, kErrAssignConstant, left, right);
     bool leftVector = left->count != 0, rightVector = right->count != 0;
     if (leftVector != rightVector) return fail(ctx, kErrVectorNotAllowed, left, right);
+    textEndForget(left->data, size_t(leftVector ? left->count : 1) * size_t(valElementSize(left->type)));
     if (!leftVector) {
         storeScalar(left, right);
     } else {

@@ -10,6 +10,7 @@ namespace mx {
 
 #ifdef MX_FUZZ
 int64_t stFuzzTurnsLeft = 0;
+int32_t stFuzzTurnsPerLoop = 0;
 #endif
 
 namespace {
@@ -67,6 +68,9 @@ int32_t ifStatement(RunContext &ctx, Mode mode) {
 // The condition and body are read again from the text for every turn.
 int32_t whileStatement(RunContext &ctx, Mode mode) {
     int32_t pos = ctx.pos, line = ctx.line;
+#ifdef MX_FUZZ
+    int32_t turns = 0;
+#endif
     for (;;) {
         int32_t c = condition(ctx, mode);
         if (c < 0) return kStError;
@@ -78,6 +82,7 @@ int32_t whileStatement(RunContext &ctx, Mode mode) {
                     errSet(ctx, kErrStackOverflow);
                     return kStError;
                 }
+                if (++turns == stFuzzTurnsPerLoop) return kStNormal;  // just after the body
 #endif
                 ctx.pos = pos, ctx.line = line;
                 break;
