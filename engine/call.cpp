@@ -3,6 +3,7 @@
 #include "engine/dispatcher.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
+#include "engine/formula_program.h"
 #include "engine/trace.h"
 #include "base/u16.h"
 #include "engine/value.h"
@@ -181,6 +182,25 @@ int32_t fnBind(RunContext &ctx, const FunctionRow *row, Value **args, int32_t co
     }
 }
 
+bool fnInvoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args, int32_t count, int32_t *result) {
+    if (fnBind(ctx, row, args, count) < 0) {
+        valReleaseArray(args, count);
+        return false;
+    }
+    *result = invoke(ctx, row, host, args, count);
+    if (ctx.errorCode == kErrNoMemory) {
+        valReleaseArray(args, count);
+        return false;
+    }
+    trFunctionCall(ctx, row->name, args, count, *result);
+    valReleaseArray(args, count);
+    if (ctx.abortCallback && ctx.abortCallback() != 0) {
+        errSet(ctx, kErrAborted);
+        return false;
+    }
+    return true;
+}
+
 Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p) {
     if (*p != u'(') {
         errSet(ctx, kErrCharExpected, u"(");
@@ -188,23 +208,11 @@ Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p) 
     }
     Value *args[kMaxArguments] = {};
     int32_t count = readArguments(ctx, row, p, args);
-    if (count < 0) return nullptr;
-    if (fnBind(ctx, row, args, count) < 0) {
-        valReleaseArray(args, count);
-        return nullptr;
-    }
-    int32_t result = invoke(ctx, row, host, args, count);
-    if (ctx.errorCode == kErrNoMemory) {
-        valReleaseArray(args, count);
-        return nullptr;
-    }
-    trFunctionCall(ctx, row->name, args, count, result);
-    valReleaseArray(args, count);
-    if (ctx.abortCallback && ctx.abortCallback() != 0) {
-        errSet(ctx, kErrAborted);
-        return nullptr;
-    }
-    return valNewLong(ctx, result);
+    int32_t result = 0;
+    if (count < 0 || !fnInvoke(ctx, row, host, args, count, &result)) return nullptr;
+    Value *v = valNewLong(ctx, result);
+    if (v) fpRecordCall(ctx, row, host, count);
+    return v;
 }
 
 int32_t fnCheckHostTable(RunContext &ctx) {

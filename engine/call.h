@@ -23,6 +23,12 @@ const FunctionRow *fnLookup(RunContext &ctx, const char16_t *name, bool *host);
 // the error set. p moves past the closing bracket.
 Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p);
 
+// Binds args (count of them, read already) against row's signature, calls the
+// function, writes the trace line and asks the abort callback. The arguments
+// are released in every case. Returns true with the function's result in
+// *result, or false with the error set.
+bool fnInvoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args, int32_t count, int32_t *result);
+
 // Checks args against signature; converts scalar by-value arguments in place
 // (the replaced Values are released). Returns 0, or -1 with the error set.
 int32_t fnBind(RunContext &ctx, const FunctionRow *row, Value **args, int32_t count);

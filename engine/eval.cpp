@@ -1,6 +1,7 @@
 #include "engine/eval.h"
 
 #include "engine/errors.h"
+#include "engine/formula_program.h"
 #include "engine/operand.h"
 #include "engine/operators.h"
 #include "engine/value.h"
@@ -51,6 +52,7 @@ bool reduce(RunContext &ctx, Stacks &st, int32_t minimum) {
         Value *left = st.popOperand();
         Value *result = oprApply(ctx, row, left, right);
         if (!result || !st.pushOperand(ctx, result)) return false;
+        fpRecordApply(ctx, row);
     }
     return true;
 }
@@ -126,7 +128,9 @@ Value *evEvaluate(RunContext &ctx, char16_t *formula) {
 Value *evEvaluateRange(RunContext &ctx, char16_t *begin, char16_t *end) {
     char16_t saved = *end;
     *end = 0;
+    fpRecordNesting(ctx, true);
     Value *v = evEvaluate(ctx, begin);
+    if (v) fpRecordNesting(ctx, false);
     *end = saved;
     return v;
 }

@@ -7,6 +7,7 @@
 #include "engine/collect.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
+#include "engine/formula_program.h"
 #include "engine/reader.h"
 #include "base/u16.h"
 #include "engine/value.h"
@@ -31,6 +32,7 @@ Value *readText(RunContext &ctx, char16_t *&p) {
     auto *s = static_cast<char16_t *>(v->data);
     for (int32_t i = 0; i < n; ++i) s[i] = p[1 + i] == kEscapedQuote ? u'"' : p[1 + i];
     p = close + 1;
+    fpRecordText(ctx, s, n + 1);
     return v;
 }
 
@@ -41,7 +43,7 @@ Value *readCharConstant(RunContext &ctx, char16_t *&p) {
         return nullptr;
     }
     Value *v = valNewChar(ctx, p[1]);
-    if (v) p += 3;
+    if (v) p += 3, fpRecordChar(ctx, v->data ? *static_cast<char16_t *>(v->data) : 0);
     return v;
 }
 
@@ -60,10 +62,12 @@ Value *readNumber(RunContext &ctx, const char16_t *token, int32_t len, bool *isN
     if (dots == 0 && len <= 9) {
         int32_t n = 0;
         for (int32_t i = 0; i < len; ++i) n = n * 10 + (ascii[i] - '0');
+        fpRecordLong(ctx, n);
         return valNewLong(ctx, n);
     }
     double d = 0.0;
     if (len > 1) std::from_chars(ascii, ascii + len, d);
+    fpRecordDouble(ctx, d);
     return valNewDouble(ctx, d);
 }
 
@@ -109,6 +113,7 @@ Value *readVariable(RunContext &ctx, char16_t *&p, const char16_t *name) {
     ref->varName = var->name;
     ref->varCount = storage->count;
     ref->index = index;
+    fpRecordVariable(ctx, var, element);
     return ref;
 }
 
@@ -140,7 +145,10 @@ Value *opReadOperand(RunContext &ctx, char16_t *&p) {
     }
     bool host = false;
     if (const FunctionRow *row = fnLookup(ctx, token, &host)) {
-        if (!row->signature) return valNewLong(ctx, int32_t(row->identifier));
+        if (!row->signature) {
+            fpRecordLong(ctx, int32_t(row->identifier));
+            return valNewLong(ctx, int32_t(row->identifier));
+        }
         return fnCall(ctx, row, host, p);
     }
     return readVariable(ctx, p, token);

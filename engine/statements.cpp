@@ -1,9 +1,13 @@
 #include "engine/statements.h"
 
+#include <memory>
+#include <new>
+
 #include "engine/collect.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
 #include "engine/reader.h"
+#include "engine/statement_cache.h"
 #include "engine/value.h"
 
 namespace mx {
@@ -21,39 +25,106 @@ bool expect(RunContext &ctx, char16_t c, const char16_t *shown) {
     return false;
 }
 
+// Remembers what was read from the place (pos, line) up to the reader's
+// position. Returns the entry, or absent when the run keeps no cache.
+CachedStatement *remember(RunContext &ctx, int32_t pos, int32_t line, CacheRole role, CachedKind kind) {
+    CachedStatement *e = scAdd(ctx, pos, role);
+    if (!e) return nullptr;
+    e->kind = kind;
+    e->after = ctx.pos;
+    e->lineDelta = ctx.line - line;
+    return e;
+}
+
+// Moves the reader past what the entry read, as reading it would have.
+void passOver(RunContext &ctx, const CachedStatement &e, int32_t line) {
+    ctx.pos = e.after;
+    ctx.line = line + e.lineDelta;
+}
+
+// Evaluates the entry's formula: by its program when one was recorded and
+// still resolves its names as the text would, else from the text, recording
+// the program for the next time.
+bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
+    if (e.program && (!e.program->names || e.generation == ctx.localGeneration))
+        return fpRun(ctx, *e.program, result);
+    e.program.reset();
+    FormulaRecorder recorder;
+    ctx.recorder = &recorder;
+    Value *v = evEvaluate(ctx, e.formula.data());
+    ctx.recorder = nullptr;
+    if (!v) return false;
+    result->vector = v->count != 0;
+    result->asLong = valToLong(v);
+    valRelease(v);
+    if (!recorder.spoiled) {
+        try {
+            e.program = std::make_unique<FormulaProgram>(std::move(recorder.program));
+            e.generation = ctx.localGeneration;
+        } catch (const std::bad_alloc &) {  // read from the text again next time
+        }
+    }
+    return true;
+}
+
+// Reads a formula up to the character close, which must follow it, and keeps
+// it in a cache entry for the place (pos, line). Absent with the error set.
+CachedStatement *readFormula(RunContext &ctx, const char16_t *start, char16_t close, const char16_t *shown,
+                             int32_t pos, int32_t line, CacheRole role, CachedKind kind,
+                             CachedStatement &spare) {
+    char16_t *formula = fmCollectInBuffer(ctx, start);
+    if (!formula) return nullptr;
+    CachedStatement *e = nullptr;
+    if (expect(ctx, close, shown)) {
+        e = remember(ctx, pos, line, role, kind);
+        if (!e) e = &spare;  // no cache: the entry lives for this statement only
+        try {
+            e->formula = formula;
+        } catch (const std::bad_alloc &) {
+            errSet(ctx, kErrNoMemory);
+            e = nullptr;
+        }
+    }
+    fmReleaseBuffer(formula);
+    return e;
+}
+
 // condition := '(' formula ')'
 // Returns 1 true, 0 false, -1 error. Skip mode reads it and gives false.
 int32_t condition(RunContext &ctx, Mode mode) {
-    if (!expect(ctx, u'(', u"(")) return -1;
-    char16_t *formula = fmCollectInBuffer(ctx, nullptr);
-    if (!formula) return -1;
-    int32_t result = -1;
-    if (!expect(ctx, u')', u")")) {
-    } else if (mode == Mode::kSkip) {
-        result = 0;
-    } else if (Value *v = evEvaluate(ctx, formula)) {
-        if (v->count != 0) errSet(ctx, kErrVectorNotAllowed, formula);
-        else result = valToLong(v) != 0;
-        valRelease(v);
+    int32_t pos = ctx.pos, line = ctx.line;
+    CachedStatement spare;
+    CachedStatement *e = scFind(ctx, pos, CacheRole::kCondition);
+    if (e) {
+        passOver(ctx, *e, line);
+    } else {
+        if (!expect(ctx, u'(', u"(")) return -1;
+        e = readFormula(ctx, nullptr, u')', u")", pos, line, CacheRole::kCondition, CachedKind::kCondition, spare);
+        if (!e) return -1;
     }
-    fmReleaseBuffer(formula);
-    return result;
+    if (mode == Mode::kSkip) return 0;
+    FormulaResult r;
+    if (!evaluate(ctx, *e, &r)) return -1;
+    if (r.vector) {
+        errSet(ctx, kErrVectorNotAllowed, e->formula.c_str());
+        return -1;
+    }
+    return r.asLong != 0;
+}
+
+// Runs the formula statement of the entry.
+int32_t runFormula(RunContext &ctx, CachedStatement &e, Mode mode) {
+    if (mode == Mode::kSkip) return kStNormal;
+    FormulaResult r;
+    return evaluate(ctx, e, &r) ? kStNormal : kStError;
 }
 
 // formula-statement := formula ';'
-int32_t formulaStatement(RunContext &ctx, const char16_t *word, Mode mode) {
-    char16_t *formula = fmCollectInBuffer(ctx, word);
-    if (!formula) return kStError;
-    int32_t result = kStError;
-    if (!expect(ctx, u';', u";")) {
-    } else if (mode == Mode::kSkip) {
-        result = kStNormal;
-    } else if (Value *v = evEvaluate(ctx, formula)) {
-        valRelease(v);
-        result = kStNormal;
-    }
-    fmReleaseBuffer(formula);
-    return result;
+int32_t formulaStatement(RunContext &ctx, const char16_t *word, Mode mode, int32_t pos, int32_t line) {
+    CachedStatement spare;
+    CachedStatement *e =
+        readFormula(ctx, word, u';', u";", pos, line, CacheRole::kStatement, CachedKind::kFormula, spare);
+    return e ? runFormula(ctx, *e, mode) : kStError;
 }
 
 // if-statement := 'if' condition statement
@@ -64,7 +135,6 @@ int32_t ifStatement(RunContext &ctx, Mode mode) {
 }
 
 // while-statement := 'while' condition statement
-// The condition and body are read again from the text for every turn.
 int32_t whileStatement(RunContext &ctx, Mode mode) {
     int32_t pos = ctx.pos, line = ctx.line;
     for (;;) {
@@ -94,7 +164,8 @@ int32_t jumpStatement(RunContext &ctx, Mode mode, int32_t result) {
     return mode == Mode::kRun ? result : kStNormal;
 }
 
-int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word, Mode mode) {
+int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word, Mode mode, int32_t pos,
+                         int32_t line) {
     switch (keyword) {
         case kKwBegin: return stBlock(ctx, mode);
         case kKwEnd: return kStEnd;
@@ -106,20 +177,44 @@ int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word,
         case kKwInt:
         case kKwFloat: return dcDeclare(ctx, false, keyword, mode) < 0 ? kStError : kStNormal;
         case kKwStatic: return dcDeclareStatic(ctx, mode) < 0 ? kStError : kStNormal;
-        default: return formulaStatement(ctx, word, mode);
+        default: return formulaStatement(ctx, word, mode, pos, line);
     }
 }
 
+// Runs a statement whose reading is in the cache.
+int32_t runCached(RunContext &ctx, CachedStatement &e, Mode mode) {
+    switch (e.kind) {
+        case CachedKind::kKeyword: return keywordStatement(ctx, e.keyword, nullptr, mode, 0, 0);
+        case CachedKind::kOpen: return stBlock(ctx, mode);
+        case CachedKind::kClose: return kStEnd;
+        default: return runFormula(ctx, e, mode);
+    }
+}
+
+// Keywords whose statement goes on after the word without depending on it.
+bool isControlKeyword(int32_t keyword) { return keyword >= kKwBegin && keyword <= kKwExit; }
+
 int32_t execute(RunContext &ctx, Mode mode) {
+    int32_t pos = ctx.pos, line = ctx.line;
+    if (CachedStatement *e = scFind(ctx, pos, CacheRole::kStatement)) {
+        passOver(ctx, *e, line);
+        return runCached(ctx, *e, mode);
+    }
     char16_t word[kWordCapacity];
     if (rdWord(ctx, word, kWordCapacity) < 0) return kStError;
     if (word[0] == 0) {
         int32_t c = rdChar(ctx, kSkipWhite);
-        if (c == u'{') return stBlock(ctx, mode);
-        if (c == u'}') return kStEnd;
+        if (c == u'{' || c == u'}') {
+            remember(ctx, pos, line, CacheRole::kStatement, c == u'{' ? CachedKind::kOpen : CachedKind::kClose);
+            return c == u'{' ? stBlock(ctx, mode) : kStEnd;
+        }
         rdUnread(ctx, c);
     }
-    return keywordStatement(ctx, rdKeyword(word), word, mode);
+    int32_t keyword = rdKeyword(word);
+    if (isControlKeyword(keyword))
+        if (CachedStatement *e = remember(ctx, pos, line, CacheRole::kStatement, CachedKind::kKeyword))
+            e->keyword = keyword;
+    return keywordStatement(ctx, keyword, word, mode, pos, line);
 }
 
 }  // namespace
