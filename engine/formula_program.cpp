@@ -6,6 +6,7 @@
 #include "engine/errors.h"
 #include "engine/eval.h"
 #include "engine/operators.h"
+#include "engine/trace.h"
 #include "engine/value.h"
 #include "engine/variables.h"
 
@@ -42,8 +43,88 @@ struct Slot {
         v = Value{kOwning, type, element, 0, nullptr, 0, 0};
         std::memcpy(element, bytes, size_t(valElementSize(type)));
     }
-    void setLong(int32_t x) { scalar(kLong, &x); }
+    void setChar(char16_t x) {
+        v = Value{kOwning, kChar, element, 0, nullptr, 0, 0};
+        std::memcpy(element, &x, sizeof x);
+    }
+    void setLong(int32_t x) {
+        v = Value{kOwning, kLong, element, 0, nullptr, 0, 0};
+        std::memcpy(element, &x, sizeof x);
+    }
+    void setDouble(double x) {
+        v = Value{kOwning, kDouble, element, 0, nullptr, 0, 0};
+        std::memcpy(element, &x, sizeof x);
+    }
 };
+
+int32_t longOf(const Value &v) { return *static_cast<const int32_t *>(v.data); }
+double doubleOf(const Value &v) {
+    return v.type == kDouble ? *static_cast<const double *>(v.data) : double(*static_cast<const int32_t *>(v.data));
+}
+
+// Binary operators on long scalars, computed inline; false leaves the
+// operation (division, logic, a traced assignment) to oprCompute.
+bool quickLong(RunContext &ctx, int8_t op, Value &left, const Value &right, Slot &out) {
+    int32_t x = longOf(left), y = longOf(right);
+    uint32_t ux = uint32_t(x), uy = uint32_t(y);
+    switch (op) {
+        case kOpAssign:
+            if (left.kind != kReference || ctx.traceSwitches) return false;
+            *static_cast<int32_t *>(left.data) = y;
+            out.setLong(y);
+            return true;
+        case kOpAdd: out.setLong(int32_t(ux + uy)); return true;
+        case kOpSubtract: out.setLong(int32_t(ux - uy)); return true;
+        case kOpMultiply: out.setLong(int32_t(ux * uy)); return true;
+        case kOpLess: out.setLong(x < y); return true;
+        case kOpLessEqual: out.setLong(x <= y); return true;
+        case kOpGreater: out.setLong(x > y); return true;
+        case kOpGreaterEqual: out.setLong(x >= y); return true;
+        case kOpEqual: out.setLong(x == y); return true;
+        case kOpNotEqual: out.setLong(x != y); return true;
+        default: return false;
+    }
+}
+
+// The same for scalars of which one at least is a double.
+bool quickDouble(RunContext &ctx, int8_t op, Value &left, const Value &right, Slot &out) {
+    double x = doubleOf(left), y = doubleOf(right);
+    switch (op) {
+        case kOpAssign:
+            if (left.kind != kReference || left.type != kDouble || ctx.traceSwitches) return false;
+            *static_cast<double *>(left.data) = y;
+            out.setDouble(y);
+            return true;
+        case kOpAdd: out.setDouble(x + y); return true;
+        case kOpSubtract: out.setDouble(x - y); return true;
+        case kOpMultiply: out.setDouble(x * y); return true;
+        case kOpLess: out.setLong(x < y); return true;
+        case kOpLessEqual: out.setLong(x <= y); return true;
+        case kOpGreater: out.setLong(x > y); return true;
+        case kOpGreaterEqual: out.setLong(x >= y); return true;
+        case kOpEqual: out.setLong(x == y); return true;
+        case kOpNotEqual: out.setLong(x != y); return true;
+        default: return false;
+    }
+}
+
+// A binary operator on two long or double scalars, the common case, without
+// the general path; false when the operation is not one of those.
+bool quickApply(RunContext &ctx, const OperatorRow *row, Slot *s, int32_t &n) {
+    if (row->arity != 2) return false;
+    Value &left = s[n - 2].v;
+    const Value &right = s[n - 1].v;
+    if ((left.count | right.count) != 0 || left.type == kChar || right.type == kChar) return false;
+    Slot out;
+    bool done = left.type == kLong && right.type == kLong ? quickLong(ctx, row->number, left, right, out)
+                                                           : quickDouble(ctx, row->number, left, right, out);
+    if (!done) return false;
+    --n;
+    s[n - 1].v = out.v;
+    s[n - 1].v.data = s[n - 1].element;
+    std::memcpy(s[n - 1].element, out.element, 8);
+    return true;
+}
 
 // Operands held on the machine's stack for all but unusually deep formulas.
 constexpr int32_t kLocalSlots = 24;
@@ -103,12 +184,8 @@ bool runSteps(RunContext &ctx, const FormulaProgram &program, Slot *s, int32_t &
     for (const Step &step : program.steps) {
         switch (step.kind) {
             case StepKind::kLong: s[n++].setLong(step.n); break;
-            case StepKind::kDouble: s[n++].scalar(kDouble, &step.number); break;
-            case StepKind::kChar: {
-                char16_t c = char16_t(step.n);
-                s[n++].scalar(kChar, &c);
-                break;
-            }
+            case StepKind::kDouble: s[n++].setDouble(step.number); break;
+            case StepKind::kChar: s[n++].setChar(char16_t(step.n)); break;
             case StepKind::kText:
                 s[n++].v = Value{kOwning, kChar, const_cast<char16_t *>(texts + step.n), step.length, nullptr, 0, 0};
                 break;
@@ -122,7 +199,7 @@ bool runSteps(RunContext &ctx, const FormulaProgram &program, Slot *s, int32_t &
                 if (!element(ctx, step.variable, s[n - 1])) return false;
                 break;
             case StepKind::kApply:
-                if (!apply(ctx, step.row, s, n)) return false;
+                if (!quickApply(ctx, step.row, s, n) && !apply(ctx, step.row, s, n)) return false;
                 break;
             case StepKind::kCall:
                 if (!call(ctx, step, s, n)) return false;
@@ -210,7 +287,7 @@ bool fpRun(RunContext &ctx, const FormulaProgram &program, FormulaResult *result
     ctx.depth = depth;  // also where an error left an argument's level open
     if (!ok) return false;
     result->vector = s[0].v.count != 0;
-    result->asLong = valToLong(&s[0].v);
+    result->asLong = s[0].v.type == kLong ? longOf(s[0].v) : valToLong(&s[0].v);
     return true;
 }
 
