@@ -1,6 +1,6 @@
 // The syntax check: broken macros get every error, with the line and the
 // words a run would report, and nothing of a checked macro runs; every
-// shipped macro (examples and golden macros) is clean or names exactly the
+// shipped macro (examples and the macros of the case files) is clean or names exactly the
 // error its run shows.
 #include <gtest/gtest.h>
 
@@ -11,6 +11,7 @@
 #include "engine/check.h"
 #include "engine/errors.h"
 #include "tools/host_common.h"
+#include "cases/case_file.h"
 #include "macro_harness.h"
 
 namespace fs = std::filesystem;
@@ -152,29 +153,30 @@ TEST(Check, CleanMacrosPass) {
     EXPECT_EQ(describe(check(u16("int i; i = JA + NEIN; Print(i); exit;"))), "");
 }
 
-// The examples and the golden macros: a macro that runs to its end is
+// The examples and every case's macro: a macro that runs to its end is
 // clean; one whose run fails with an error that reading finds names that
 // error at the same line. The example host's macro is read with that host's
 // names.
 TEST(Check, EveryShippedMacro) {
-    std::vector<fs::path> macros;
-    for (const char *dir : {"examples", "tests/macros"})
-        for (auto &e : fs::recursive_directory_iterator(fs::path(MX_SOURCE_DIR) / dir))
-            if (e.path().extension() == ".mac") macros.push_back(e.path());
-    ASSERT_GT(macros.size(), 10u);
-    for (const fs::path &mac : macros) {
-        SCOPED_TRACE(mac.string());
-        bool exampleHost = mac.parent_path().filename() == "host";
-        std::vector<Found> found = check(u16(mac.string()), true,
-                                         exampleHost ? kExampleHost : reinterpret_cast<const mx::FunctionRow *>(kHostTable));
-        fs::path out = fs::path(mac).replace_extension(".out");
-        std::string expected = fs::exists(out) ? readFile(out.string()) : "result: 0\n";
-        if (expected.find("result: -1\n") == std::string::npos) {
-            EXPECT_EQ(describe(found), "");
-        } else if (!found.empty()) {
-            std::string box = "Fehler in Zeile " + std::to_string(found[0].line) + " des Makros " +
-                              mac.filename().string() + "\n\n" + found[0].message + "\n";
-            EXPECT_NE(expected.find(box), std::string::npos) << describe(found);
+    const auto *hostTable = reinterpret_cast<const mx::FunctionRow *>(kHostTable);
+    for (auto &e : fs::recursive_directory_iterator(fs::path(MX_SOURCE_DIR) / "examples"))
+        if (e.path().extension() == ".mac") {
+            bool exampleHost = e.path().parent_path().filename() == "host";
+            EXPECT_EQ(describe(check(u16(e.path().string()), true, exampleHost ? kExampleHost : hostTable)), "")
+                << e.path();
+        }
+    std::vector<Case> cases;
+    std::string error, dir = scratchDir();
+    ASSERT_TRUE(caseLoadAll(MX_SOURCE_DIR "/tests/cases", cases, error)) << error;
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.where);
+        std::string path = dir + "/" + c.macroFile;
+        if (!c.macroFile.empty()) writeFile(path, c.fileBytes);
+        std::vector<Found> found = c.macroFile.empty() ? check(u16(c.macro)) : check(u16(path), true);
+        if (c.result != -1) EXPECT_EQ(describe(found), "");
+        else if (!found.empty()) {
+            EXPECT_NE(c.output.find(found[0].message), std::string::npos) << describe(found);
+            EXPECT_NE(c.output.find("Zeile " + std::to_string(found[0].line) + " "), std::string::npos);
         }
     }
 }

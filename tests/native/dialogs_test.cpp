@@ -2,7 +2,7 @@
 // an answer script, the answer script itself, the list-file and header
 // formats, and the pieces the Windows dialogs share (styles, layout, the
 // number IntDialog reads). The same macros with their answer scripts run on
-// both builds as golden macros (tests/macros/dialogs/).
+// both builds as cases (tests/cases/dialogs.cases).
 #include <gtest/gtest.h>
 
 #include <climits>

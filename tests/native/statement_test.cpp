@@ -114,6 +114,22 @@ TEST(Statement, StaticsOutliveRunsAndLocalsDoNot) {
     EXPECT_EQ(runCore(u"int shadowed; Print(shadowed);").output, "0\n");
 }
 
+// Past the name index's first sizes: every variable keeps its own value, a
+// second declaration of any of them is refused, a local hides a static.
+TEST(Statement, ManyVariablesKeepTheirValuesAndNames) {
+    std::string macro = "if (IsDeclared(\"many7\") == 0) static int many7; many7 = 5; ", sum = "int s; ";
+    for (int k = 0; k < 300; ++k) {
+        macro += "int m" + std::to_string(k) + "; m" + std::to_string(k) + " = " + std::to_string(k) + "; ";
+        sum += "s = s + m" + std::to_string(k) + "; ";
+    }
+    CoreRun all = runCore(u16(macro + "int many7; " + sum + "Print(s + many7);"));
+    EXPECT_EQ(all.errorCode, 0);
+    EXPECT_EQ(all.output, "44850\n");
+    CoreRun twice = runCore(u16(macro + "int m299;"));
+    EXPECT_EQ(twice.errorCode, 124);
+    EXPECT_EQ(twice.errorArg, "m299");
+}
+
 TEST(Statement, NestingIsLimitedInsteadOfExhaustingTheStack) {
     auto blocks = [](int n) {
         std::string s;
