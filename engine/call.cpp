@@ -69,16 +69,17 @@ bool bindOne(RunContext &ctx, const Descriptor &d, Value **slot) {
 
 // Reads the arguments between the brackets into args. Returns their count,
 // or -1 with the error set (the arguments read so far are released).
-int32_t readArguments(RunContext &ctx, const FunctionRow *row, char16_t *&p, Value **args) {
+int32_t readArguments(RunContext &ctx, const FunctionRow *row, const char16_t *&p, const char16_t *formulaEnd,
+                      Value **args) {
     int32_t count = 0;
     ++p;  // '('
-    while (*p != u')') {
+    while (p == formulaEnd || *p != u')') {
         if (count == kMaxArguments) {
             errSet(ctx, kErrTooManyParams, row->name);
             valReleaseArray(args, count);
             return -1;
         }
-        char16_t *end = evScanArgument(p);
+        const char16_t *end = evScanArgument(p, formulaEnd);
         Value *v = evEvaluateRange(ctx, p, end);
         if (!v) {
             valReleaseArray(args, count);
@@ -86,7 +87,7 @@ int32_t readArguments(RunContext &ctx, const FunctionRow *row, char16_t *&p, Val
         }
         args[count++] = v;
         p = end;
-        if (*p == u',') ++p;
+        if (p < formulaEnd && *p == u',') ++p;
     }
     ++p;  // ')'
     return count;
@@ -201,13 +202,13 @@ bool fnInvoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args, 
     return true;
 }
 
-Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p) {
-    if (*p != u'(') {
+Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, const char16_t *&p, const char16_t *end) {
+    if (p == end || *p != u'(') {
         errSet(ctx, kErrCharExpected, u"(");
         return nullptr;
     }
     Value *args[kMaxArguments] = {};
-    int32_t count = readArguments(ctx, row, p, args);
+    int32_t count = readArguments(ctx, row, p, end, args);
     int32_t result = 0;
     if (count < 0 || !fnInvoke(ctx, row, host, args, count, &result)) return nullptr;
     Value *v = valNewLong(ctx, result);

@@ -19,11 +19,11 @@ namespace mx {
 namespace {
 
 // "..." : an owning character vector; escaped quotes become '"' again.
-Value *readText(RunContext &ctx, char16_t *&p) {
-    char16_t *close = p + 1;
-    while (*close && *close != u'"') ++close;
-    if (!*close) {
-        errSet(ctx, kErrStringEnd, p);
+Value *readText(RunContext &ctx, const char16_t *&p, const char16_t *end) {
+    const char16_t *close = p + 1;
+    while (close < end && *close != u'"') ++close;
+    if (close == end) {
+        errSetN(ctx, kErrStringEnd, p, int32_t(end - p));
         return nullptr;
     }
     int32_t n = int32_t(close - (p + 1));
@@ -37,9 +37,9 @@ Value *readText(RunContext &ctx, char16_t *&p) {
 }
 
 // 'x' : an owning character scalar.
-Value *readCharConstant(RunContext &ctx, char16_t *&p) {
-    if (!p[1] || p[2] != u'\'') {
-        errSet(ctx, kErrBadCharConstant, p);
+Value *readCharConstant(RunContext &ctx, const char16_t *&p, const char16_t *end) {
+    if (end - p < 3 || p[2] != u'\'') {
+        errSetN(ctx, kErrBadCharConstant, p, int32_t(end - p));
         return nullptr;
     }
     Value *v = valNewChar(ctx, p[1]);
@@ -73,13 +73,13 @@ Value *readNumber(RunContext &ctx, const char16_t *token, int32_t len, bool *isN
 
 // Reads "[index]" at p for variable var. Returns the index, or -1 with the
 // error set.
-bool readIndex(RunContext &ctx, char16_t *&p, int32_t *index) {
-    char16_t *begin = p + 1;
-    char16_t *end = evScanArgument(begin);
+bool readIndex(RunContext &ctx, const char16_t *&p, const char16_t *formulaEnd, int32_t *index) {
+    const char16_t *begin = p + 1;
+    const char16_t *end = evScanArgument(begin, formulaEnd);
     Value *v = evEvaluateRange(ctx, begin, end);
     if (!v) return false;
     bool ok = false;
-    if (*end != u']') errSet(ctx, kErrCharExpected, u"]");
+    if (end == formulaEnd || *end != u']') errSet(ctx, kErrCharExpected, u"]");
     else if (v->count != 0) errSet(ctx, kErrVectorNotAllowed);
     else ok = true;
     if (ok) *index = valToLong(v), p = end + 1;
@@ -87,7 +87,7 @@ bool readIndex(RunContext &ctx, char16_t *&p, int32_t *index) {
     return ok;
 }
 
-Value *readVariable(RunContext &ctx, char16_t *&p, const char16_t *name) {
+Value *readVariable(RunContext &ctx, const char16_t *&p, const char16_t *end, const char16_t *name) {
     Variable *var = varLookup(ctx, name);
     if (!var) {
         errSet(ctx, kErrVarUndeclared, name);
@@ -95,9 +95,9 @@ Value *readVariable(RunContext &ctx, char16_t *&p, const char16_t *name) {
     }
     const Value *storage = var->value;
     int32_t index = 0;
-    bool element = *p == u'[';
+    bool element = p < end && *p == u'[';
     if (element) {
-        if (!readIndex(ctx, p, &index)) return nullptr;
+        if (!readIndex(ctx, p, end, &index)) return nullptr;
         if (storage->count == 0) {
             errSet(ctx, kErrNotIndexable, var->name);
             return nullptr;
@@ -128,19 +128,19 @@ bool isNameStart(char16_t c) {
 
 }  // namespace
 
-Value *opReadOperand(RunContext &ctx, char16_t *&p) {
-    if (*p == u'"') return readText(ctx, p);
-    if (*p == u'\'') return readCharConstant(ctx, p);
+Value *opReadOperand(RunContext &ctx, const char16_t *&p, const char16_t *end) {
+    if (*p == u'"') return readText(ctx, p, end);
+    if (*p == u'\'') return readCharConstant(ctx, p, end);
     char16_t token[kNameCapacity];
     int32_t len = 0;
-    for (; *p && isTokenChar(*p); ++p)
+    for (; p < end && isTokenChar(*p); ++p)
         if (len < kNameCapacity - 1) token[len++] = *p;
     token[len] = 0;
     bool isNumber = false;
     Value *number = readNumber(ctx, token, len, &isNumber);
     if (isNumber) return number;
     if (len == 0 || !isNameStart(token[0])) {
-        errSet(ctx, kErrBadOperand, p);
+        errSetN(ctx, kErrBadOperand, p, int32_t(end - p));
         return nullptr;
     }
     bool host = false;
@@ -149,9 +149,9 @@ Value *opReadOperand(RunContext &ctx, char16_t *&p) {
             fpRecordLong(ctx, int32_t(row->identifier));
             return valNewLong(ctx, int32_t(row->identifier));
         }
-        return fnCall(ctx, row, host, p);
+        return fnCall(ctx, row, host, p, end);
     }
-    return readVariable(ctx, p, token);
+    return readVariable(ctx, p, end, token);
 }
 
 }  // namespace mx

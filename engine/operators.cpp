@@ -120,10 +120,11 @@ bool oprCompute(RunContext &ctx, const OperatorRow *row, const Value *left, cons
                     : applyLong(ctx, row->number, valToLong(left), right ? valToLong(right) : 0, result);
 }
 
-const OperatorRow *oprMatch(const char16_t *text, int32_t arity) {
+const OperatorRow *oprMatch(const char16_t *text, const char16_t *end, int32_t arity) {
     for (const OperatorRow &row : kOperators) {
         if (row.arity != arity) continue;
-        if (text[0] == row.symbol[0] && (row.length == 1 || text[1] == row.symbol[1])) return &row;
+        if (text[0] == row.symbol[0] && (row.length == 1 || (end - text > 1 && text[1] == row.symbol[1])))
+            return &row;
     }
     return nullptr;
 }

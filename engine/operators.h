@@ -23,9 +23,10 @@ struct OperatorRow {
     int8_t arity;
 };
 
-// The row whose symbol is a prefix of text among the rows of the given arity
-// (1 or 2), tried in table order; absent when none matches.
-const OperatorRow *oprMatch(const char16_t *text, int32_t arity);
+// The row whose symbol is a prefix of the text [text, end) (not empty) among
+// the rows of the given arity (1 or 2), tried in table order; absent when none
+// matches.
+const OperatorRow *oprMatch(const char16_t *text, const char16_t *end, int32_t arity);
 
 // The bracket marker row.
 const OperatorRow *oprBracket();

@@ -25,21 +25,20 @@ bool expect(RunContext &ctx, char16_t c, const char16_t *shown) {
     return false;
 }
 
-// Remembers what was read from the place (pos, line) up to the reader's
+// Remembers what was read from the place from up to the reader's
 // position. Returns the entry, or absent when the run keeps no cache.
-CachedStatement *remember(RunContext &ctx, int32_t pos, int32_t line, CacheRole role, CachedKind kind) {
-    CachedStatement *e = scAdd(ctx, pos, role);
+CachedStatement *remember(RunContext &ctx, TextPlace from, CacheRole role, CachedKind kind) {
+    CachedStatement *e = scAdd(ctx, from.pos, role);
     if (!e) return nullptr;
     e->kind = kind;
     e->after = ctx.pos;
-    e->lineDelta = ctx.line - line;
+    e->lineDelta = ctx.line - from.line;
     return e;
 }
 
 // Moves the reader past what the entry read, as reading it would have.
-void passOver(RunContext &ctx, const CachedStatement &e, int32_t line) {
-    ctx.pos = e.after;
-    ctx.line = line + e.lineDelta;
+void passOver(RunContext &ctx, const CachedStatement &e, TextPlace from) {
+    rdSeek(ctx, TextPlace{e.after, from.line + e.lineDelta});
 }
 
 // Evaluates the entry's formula: by its program when one was recorded and
@@ -51,7 +50,7 @@ bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
     e.program.reset();
     FormulaRecorder recorder;
     ctx.recorder = &recorder;
-    Value *v = evEvaluate(ctx, e.formula.data());
+    Value *v = evEvaluate(ctx, e.formula.data(), e.formula.data() + e.formula.size());
     ctx.recorder = nullptr;
     if (!v) return false;
     result->vector = v->count != 0;
@@ -68,38 +67,38 @@ bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
 }
 
 // Reads a formula up to the character close, which must follow it, and keeps
-// it in a cache entry for the place (pos, line). Absent with the error set.
+// it in a cache entry for the place from. Absent with the error set.
 CachedStatement *readFormula(RunContext &ctx, const char16_t *start, char16_t close, const char16_t *shown,
-                             int32_t pos, int32_t line, CacheRole role, CachedKind kind,
+                             TextPlace from, CacheRole role, CachedKind kind,
                              CachedStatement &spare) {
-    char16_t *formula = fmCollectInBuffer(ctx, start);
-    if (!formula) return nullptr;
+    char16_t formula[kFormulaCapacity];
+    int32_t length = fmCollect(ctx, start, formula);
+    if (length < 0) return nullptr;
     CachedStatement *e = nullptr;
     if (expect(ctx, close, shown)) {
-        e = remember(ctx, pos, line, role, kind);
+        e = remember(ctx, from, role, kind);
         if (!e) e = &spare;  // no cache: the entry lives for this statement only
         try {
-            e->formula = formula;
+            e->formula.assign(formula, size_t(length));
         } catch (const std::bad_alloc &) {
             errSet(ctx, kErrNoMemory);
             e = nullptr;
         }
     }
-    fmReleaseBuffer(formula);
     return e;
 }
 
 // condition := '(' formula ')'
 // Returns 1 true, 0 false, -1 error. Skip mode reads it and gives false.
 int32_t condition(RunContext &ctx, Mode mode) {
-    int32_t pos = ctx.pos, line = ctx.line;
+    TextPlace from = rdPlace(ctx);
     CachedStatement spare;
-    CachedStatement *e = scFind(ctx, pos, CacheRole::kCondition);
+    CachedStatement *e = scFind(ctx, from.pos, CacheRole::kCondition);
     if (e) {
-        passOver(ctx, *e, line);
+        passOver(ctx, *e, from);
     } else {
         if (!expect(ctx, u'(', u"(")) return -1;
-        e = readFormula(ctx, nullptr, u')', u")", pos, line, CacheRole::kCondition, CachedKind::kCondition, spare);
+        e = readFormula(ctx, nullptr, u')', u")", from, CacheRole::kCondition, CachedKind::kCondition, spare);
         if (!e) return -1;
     }
     if (mode == Mode::kSkip) return 0;
@@ -120,10 +119,10 @@ int32_t runFormula(RunContext &ctx, CachedStatement &e, Mode mode) {
 }
 
 // formula-statement := formula ';'
-int32_t formulaStatement(RunContext &ctx, const char16_t *word, Mode mode, int32_t pos, int32_t line) {
+int32_t formulaStatement(RunContext &ctx, const char16_t *word, Mode mode, TextPlace from) {
     CachedStatement spare;
     CachedStatement *e =
-        readFormula(ctx, word, u';', u";", pos, line, CacheRole::kStatement, CachedKind::kFormula, spare);
+        readFormula(ctx, word, u';', u";", from, CacheRole::kStatement, CachedKind::kFormula, spare);
     return e ? runFormula(ctx, *e, mode) : kStError;
 }
 
@@ -136,7 +135,7 @@ int32_t ifStatement(RunContext &ctx, Mode mode) {
 
 // while-statement := 'while' condition statement
 int32_t whileStatement(RunContext &ctx, Mode mode) {
-    int32_t pos = ctx.pos, line = ctx.line;
+    TextPlace start = rdPlace(ctx);
     for (;;) {
         int32_t c = condition(ctx, mode);
         if (c < 0) return kStError;
@@ -149,7 +148,7 @@ int32_t whileStatement(RunContext &ctx, Mode mode) {
                     return kStError;
                 }
 #endif
-                ctx.pos = pos, ctx.line = line;
+                rdSeek(ctx, start);
                 break;
             case kStBreak: return kStNormal;
             case kStEnd: errSet(ctx, kErrKeywordNotAllowed, u"end"); return kStError;
@@ -164,8 +163,7 @@ int32_t jumpStatement(RunContext &ctx, Mode mode, int32_t result) {
     return mode == Mode::kRun ? result : kStNormal;
 }
 
-int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word, Mode mode, int32_t pos,
-                         int32_t line) {
+int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word, Mode mode, TextPlace from) {
     switch (keyword) {
         case kKwBegin: return stBlock(ctx, mode);
         case kKwEnd: return kStEnd;
@@ -177,14 +175,14 @@ int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word,
         case kKwInt:
         case kKwFloat: return dcDeclare(ctx, false, keyword, mode) < 0 ? kStError : kStNormal;
         case kKwStatic: return dcDeclareStatic(ctx, mode) < 0 ? kStError : kStNormal;
-        default: return formulaStatement(ctx, word, mode, pos, line);
+        default: return formulaStatement(ctx, word, mode, from);
     }
 }
 
 // Runs a statement whose reading is in the cache.
 int32_t runCached(RunContext &ctx, CachedStatement &e, Mode mode) {
     switch (e.kind) {
-        case CachedKind::kKeyword: return keywordStatement(ctx, e.keyword, nullptr, mode, 0, 0);
+        case CachedKind::kKeyword: return keywordStatement(ctx, e.keyword, nullptr, mode, TextPlace{});
         case CachedKind::kOpen: return stBlock(ctx, mode);
         case CachedKind::kClose: return kStEnd;
         default: return runFormula(ctx, e, mode);
@@ -195,9 +193,9 @@ int32_t runCached(RunContext &ctx, CachedStatement &e, Mode mode) {
 bool isControlKeyword(int32_t keyword) { return keyword >= kKwBegin && keyword <= kKwExit; }
 
 int32_t execute(RunContext &ctx, Mode mode) {
-    int32_t pos = ctx.pos, line = ctx.line;
-    if (CachedStatement *e = scFind(ctx, pos, CacheRole::kStatement)) {
-        passOver(ctx, *e, line);
+    TextPlace from = rdPlace(ctx);
+    if (CachedStatement *e = scFind(ctx, from.pos, CacheRole::kStatement)) {
+        passOver(ctx, *e, from);
         return runCached(ctx, *e, mode);
     }
     char16_t word[kWordCapacity];
@@ -205,16 +203,16 @@ int32_t execute(RunContext &ctx, Mode mode) {
     if (word[0] == 0) {
         int32_t c = rdChar(ctx, kSkipWhite);
         if (c == u'{' || c == u'}') {
-            remember(ctx, pos, line, CacheRole::kStatement, c == u'{' ? CachedKind::kOpen : CachedKind::kClose);
+            remember(ctx, from, CacheRole::kStatement, c == u'{' ? CachedKind::kOpen : CachedKind::kClose);
             return c == u'{' ? stBlock(ctx, mode) : kStEnd;
         }
         rdUnread(ctx, c);
     }
     int32_t keyword = rdKeyword(word);
     if (isControlKeyword(keyword))
-        if (CachedStatement *e = remember(ctx, pos, line, CacheRole::kStatement, CachedKind::kKeyword))
+        if (CachedStatement *e = remember(ctx, from, CacheRole::kStatement, CachedKind::kKeyword))
             e->keyword = keyword;
-    return keywordStatement(ctx, keyword, word, mode, pos, line);
+    return keywordStatement(ctx, keyword, word, mode, from);
 }
 
 }  // namespace
