@@ -116,6 +116,29 @@ bool applySection(Case &c, const std::vector<std::string> &head, const std::vect
     return true;
 }
 
+// One line of an "each" block: "MACRO => OUTPUT", the output's lines joined
+// by " | ", where "! MESSAGE" stands for the macro error box of line 1 (and
+// makes the result -1).
+bool eachCase(const Case &table, const std::string &line, size_t k, Case &c) {
+    size_t arrow = line.find(" =>");
+    if (arrow == std::string::npos) return false;
+    c = table;
+    c.name += " " + std::to_string(k);
+    c.macro = line.substr(0, arrow) + "\n";
+    std::string rest = line.substr(arrow + 3);
+    if (!rest.empty() && rest[0] == ' ') rest.erase(0, 1);
+    for (size_t at = 0; !rest.empty() && at != std::string::npos;) {
+        size_t bar = rest.find(" | ", at);
+        std::string part = rest.substr(at, bar == std::string::npos ? bar : bar - at);
+        at = bar == std::string::npos ? bar : bar + 3;
+        if (part.rfind("! ", 0) == 0) {
+            c.output += "Makrofehler: Fehler in Zeile 1 des Makros \n\n" + part.substr(2) + "\n\n";
+            c.result = -1;
+        } else c.output += part + "\n";
+    }
+    return true;
+}
+
 }  // namespace
 
 bool caseParse(const std::string &text, const std::string &fileName, std::vector<Case> &out, std::string &error) {
@@ -134,20 +157,33 @@ bool caseParse(const std::string &text, const std::string &fileName, std::vector
         c.where = fileName + ":" + std::to_string(i + 1);
         if (!readHeader(lines[i], c)) return fail("a case needs a name");
         std::vector<std::string> head;  // empty: the macro text
+        std::vector<std::pair<size_t, std::string>> each;  // line number, "MACRO => OUTPUT"
         for (++i;;) {
             std::vector<std::string> block;
+            size_t from = i;
             while (i < lines.size() && !startsWith(lines[i], "---") && !startsWith(lines[i], "==="))
                 block.push_back(lines[i++]);
             bool last = i == lines.size() || startsWith(lines[i], "===");
             // Blank lines between cases belong to no block.
             while (last && !block.empty() && block.back().empty()) block.pop_back();
             if (head.empty()) c.macro = joined(block);
-            else if (!applySection(c, head, block)) return fail("section not understood");
+            else if (head[0] == "each" && head.size() == 1) {
+                for (size_t k = 0; k < block.size(); ++k)
+                    if (!block[k].empty()) each.push_back({from + k, block[k]});
+            } else if (!applySection(c, head, block)) return fail("section not understood");
             if (last) break;
             head = words(lines[i].substr(3));
             if (head.empty()) return fail("a section needs a kind");
             ++i;
         }
+        for (size_t k = 0, next = i; k < each.size(); ++k, i = next) {
+            Case one;
+            i = each[k].first;
+            if (!eachCase(c, each[k].second, k + 1, one)) return fail("a line of \"each\" needs \" =>\"");
+            one.where = fileName + ":" + std::to_string(i + 1);
+            out.push_back(std::move(one));
+        }
+        if (!each.empty()) continue;
         if (c.macro.empty()) return fail("a case needs macro text");
         if (!c.macroFile.empty() && !toCodePage1252(c.macro, c.fileBytes))
             return fail("a macro file holds only characters of code page 1252");

@@ -106,8 +106,10 @@ std::string caseCheck(const Case &c, const CaseHost &host) {
     if (r.result != c.result)
         report += "result " + std::to_string(r.result) + ", expected " + std::to_string(c.result) + "\n";
     report += compareFiles(c, dir);
+    // Windows refuses to remove a file the run left open.
     std::error_code ec;
     fs::remove_all(dir, ec);
+    if (ec) report += "the case's directory cannot be removed (a file left open?): " + ec.message() + "\n";
     return report.empty() ? "" : c.where + " " + c.name + ":\n" + report;
 }
 

@@ -153,7 +153,7 @@ TEST(Check, CleanMacrosPass) {
     EXPECT_EQ(describe(check(u16("int i; i = JA + NEIN; Print(i); exit;"))), "");
 }
 
-// The examples and every case's macro: a macro that runs to its end is
+// The examples and every file macro of the cases: a macro that runs to its end is
 // clean; one whose run fails with an error that reading finds names that
 // error at the same line. The example host's macro is read with that host's
 // names.
@@ -169,10 +169,13 @@ TEST(Check, EveryShippedMacro) {
     std::string error, dir = scratchDir();
     ASSERT_TRUE(caseLoadAll(MX_SOURCE_DIR "/tests/cases", cases, error)) << error;
     for (const Case &c : cases) {
+        // Memory-macro cases try single statements, some of them on purpose
+        // in branches a run skips and the check still reads.
+        if (c.macroFile.empty()) continue;
         SCOPED_TRACE(c.where);
         std::string path = dir + "/" + c.macroFile;
-        if (!c.macroFile.empty()) writeFile(path, c.fileBytes);
-        std::vector<Found> found = c.macroFile.empty() ? check(u16(c.macro)) : check(u16(path), true);
+        writeFile(path, c.fileBytes);
+        std::vector<Found> found = check(u16(path), true);
         if (c.result != -1) EXPECT_EQ(describe(found), "");
         else if (!found.empty()) {
             EXPECT_NE(c.output.find(found[0].message), std::string::npos) << describe(found);

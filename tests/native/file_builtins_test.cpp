@@ -1,18 +1,25 @@
-// The stream and whole-file built-ins, through real macros and directly:
-// the five slots, the open errors and their boxes, handles that name no
-// stream, line reading in pieces, exact writing, copying, renaming,
-// deleting, loading, temporary names and directory chains.
+// The file built-ins through real macros and directly: the five slots, the
+// open errors and their boxes, handles that name no stream, line reading in
+// pieces, exact writing, copying, renaming, deleting, loading, temporary names,
+// directory chains, the file lists of MakeFilelist and ScanDirectory, and files
+// that are no regular files: a macro never blocks on a FIFO, never reads a
+// device without end, never replaces a link or a device by a file of its own,
+// and learns of a write that failed.
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <set>
 
-#include "engine/dispatcher.h"
+#include "base/utf8.h"
+#include "builtins/files/file_lists.h"
 #include "builtins/files/file_ops.h"
 #include "builtins/files/streams.h"
 #include "builtins/table.h"
-#include "base/utf8.h"
+#include "engine/dispatcher.h"
 #include "engine/run_context.h"
 #include "macro_harness.h"
 #include "platform/platform.h"
@@ -30,19 +37,6 @@ struct FileBuiltins : ::testing::Test {
     void TearDown() override { fs::remove_all(dir); }
 };
 
-TEST(FileFamily, EveryFunctionOfTheFamilyIsImplementedUnderAllItsNames) {
-    const std::set<uint32_t> numbers = {1,  2,  3,  4,   5,   6,   7,   9,   46,  47,  48,  49,  57,  58,  59,  60,  73,
-                                        80, 105, 106, 112, 123, 136, 137, 141, 147, 152, 162, 163, 167, 168, 169, 170, 187};
-    std::set<uint32_t> seen;
-    for (const FunctionRow *row = biTable(); row->name; ++row) {
-        uint32_t number = row->identifier & kFunctionNumberMask;
-        if (!row->signature || !numbers.count(number)) continue;
-        seen.insert(number);
-        EXPECT_TRUE(dispatchImplemented(int32_t(number))) << toUtf8(row->name);
-    }
-    EXPECT_EQ(seen, numbers);
-}
-
 TEST_F(FileBuiltins, SixthOpenAnswersZeroSilentlyAndAFreedSlotIsReused) {
     for (int i = 1; i <= 6; ++i) writeFile(path("f" + std::to_string(i)), "x");
     std::string m = "int h[7]; int i; i = 1;\n";
@@ -51,31 +45,14 @@ TEST_F(FileBuiltins, SixthOpenAnswersZeroSilentlyAndAFreedSlotIsReused) {
     m += "i = 1; while (i < 7) { Print(h[i]); i = i + 1; }\n"
          "Print(CloseFile(h[3]));\n"
          "Print(OpenFile(\"" + path("f6") + "\", \"r\"));\n";
+    // A close frees the slot and the file: the same file opens again, more
+    // often than there are slots.
+    for (int i = 1; i <= 5; ++i) m += "CloseFile(" + std::to_string(i) + ");";
+    m += "i = 0; while (i < 7) { h[0] = OpenFile(\"" + path("f1") + "\", \"w\"); Print(h[0]);"
+         " CloseFile(h[0]); i = i + 1; }\n";
     MacroRun r = run(m);
     EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(r.output, "1\n2\n3\n4\n5\n0\n0\n3\n");
-}
-
-TEST_F(FileBuiltins, FailedOpenShowsItsBoxAtOnceAndTheMacroGoesOn) {
-    writeFile(path("busy.txt"), "x");
-    std::string missing = path("missing.txt"), busy = path("busy.txt");
-    MacroRun r = run("Print(OpenFile(\"" + missing + "\", \"r\"));\n"
-                     "Print(OpenFile(\"" + busy + "\", \"r\"));\n"
-                     "Print(OpenFile(\"" + busy + "\", \"r\"));\n"
-                     "Print(OpenFile(\"" + busy + "\", \"q\"));\n"
-                     "Print(7);");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 1 des Makros \n\nDie Datei '" + missing +
-                            "' existiert nicht\n\n"
-                            "0\n1\n"
-                            "Makrofehler: Fehler in Zeile 3 des Makros \n\nDie Datei '" +
-                            busy +
-                            "' ist bereits im Zugriff\n\n"
-                            "0\n"
-                            "Makrofehler: Fehler in Zeile 4 des Makros \n\nFehler in Datei '" +
-                            busy +
-                            "'\n\n"
-                            "0\n7\n");
+    EXPECT_EQ(r.output, "1\n2\n3\n4\n5\n0\n0\n3\n1\n1\n1\n1\n1\n1\n1\n");
 }
 
 TEST_F(FileBuiltins, OpenErrorKeepsOnly127CharactersOfTheName) {
@@ -89,41 +66,6 @@ TEST_F(FileBuiltins, OpenErrorKeepsOnly127CharactersOfTheName) {
     EXPECT_EQ(ctx.errorCode, 113);
     EXPECT_EQ(std::u16string(ctx.errorArg), name.substr(0, 127));
     EXPECT_NE(box.find(toUtf8(name.substr(0, 127).c_str()) + "' existiert nicht"), std::string::npos);
-}
-
-TEST_F(FileBuiltins, HandlesThatNameNoStreamTouchNothing) {
-    writeFile(path("a.txt"), "line\n");
-    RunContext ctx{};
-    int32_t h = fsOpenFile(ctx, upath("a.txt").c_str(), u"r");
-    ASSERT_EQ(h, 1);
-    ASSERT_EQ(fsCloseFile(ctx, h), 0);
-    char16_t buf[8] = u"keep";
-    for (int32_t bad : {0, -1, 6, 7, 1000, h}) {
-        SCOPED_TRACE(bad);
-        EXPECT_EQ(fsReadFile(ctx, bad, buf, 8), 1);
-        EXPECT_EQ(buf[0], 0);
-        EXPECT_EQ(fsWriteFile(ctx, bad, u"x"), -1);
-        EXPECT_EQ(fsCloseFile(ctx, bad), -1);
-    }
-    for (MxpFile *f : ctx.files) EXPECT_EQ(f, nullptr);
-    EXPECT_EQ(readFile(path("a.txt")), "line\n");
-}
-
-TEST_F(FileBuiltins, LongLinesComeInPiecesAndTheEndAnswersOne) {
-    writeFile(path("long.txt"), "abcdefgh\r\nxy");
-    MacroRun r = run("char s[4]; int h; int rc; h = OpenFile(\"" + path("long.txt") + "\", \"r\");\n"
-                     "rc = ReadFile(h, s); while (rc == 0) { Print(s); rc = ReadFile(h, s); }\n"
-                     "Print(rc); Print(ReadFile(h, s)); CloseFile(h);");
-    EXPECT_EQ(r.output, "abc\ndef\ngh\n\nxy\n1\n1\n");
-}
-
-TEST_F(FileBuiltins, WriteFileWritesExactlyItsText) {
-    MacroRun r = run("int h; h = OpenFile(\"" + path("w.txt") + "\", \"w\");\n"
-                     "Print(WriteFile(h, \"abc\")); Print(WriteFile(h, \"\")); CloseFile(h);\n"
-                     "h = OpenFile(\"" + path("r.txt") + "\", \"r\"); Print(WriteFile(h, \"x\"));");
-    EXPECT_EQ(readFile(path("w.txt")), "abc");
-    EXPECT_NE(r.output.find("0\n0\n"), std::string::npos);
-    EXPECT_EQ(r.output.substr(r.output.size() - 3), "-1\n") << "a read-only stream refuses writing";
 }
 
 TEST_F(FileBuiltins, FilesOfARunAndOfANestedRunAreClosedAtTheirEnd) {
@@ -176,18 +118,6 @@ TEST_F(FileBuiltins, CopyReplacesTheDestinationAndNeedsItsSource) {
     ASSERT_EQ(fsOpenFile(ctx, upath("dst.bin").c_str(), u"r"), 1);
     EXPECT_EQ(foCopyFile(upath("dst.bin").c_str(), upath("copy.bin").c_str()), 1) << "an open file is busy";
     fsCloseFile(ctx, 1);
-}
-
-TEST_F(FileBuiltins, RenameMovesButNeverOverwrites) {
-    writeFile(path("a"), "A");
-    writeFile(path("b"), "B");
-    fs::create_directory(path("sub"));
-    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("b").c_str()), 1);
-    EXPECT_EQ(readFile(path("b")), "B");
-    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("sub/a2").c_str()), 0);
-    EXPECT_EQ(readFile(path("sub/a2")), "A");
-    EXPECT_EQ(foRenameFile(upath("a").c_str(), upath("c").c_str()), 1);
-    EXPECT_EQ(foRenameFile(u"", upath("c").c_str()), 1);
 }
 
 TEST_F(FileBuiltins, DeleteAlwaysAnswersZero) {
@@ -259,14 +189,126 @@ TEST_F(FileBuiltins, TempFileNamesAreNewEmptyFilesStartingWithMX) {
     EXPECT_EQ(std::distance(fs::directory_iterator(tmp), fs::directory_iterator()), 2);
 }
 
-TEST_F(FileBuiltins, CreateDirectoryMakesTheWholeChain) {
-    EXPECT_EQ(foCreateDirectory(upath("a/b/c").c_str()), 0);
-    EXPECT_TRUE(fs::is_directory(path("a/b/c")));
-    EXPECT_EQ(foCreateDirectory(upath("a/b/c/").c_str()), 0) << "an existing directory is success";
-    writeFile(path("file"), "x");
-    EXPECT_EQ(foCreateDirectory(upath("file/sub").c_str()), -1);
-    EXPECT_EQ(foCreateDirectory(upath("file").c_str()), -1);
-    EXPECT_EQ(foCreateDirectory(u""), -1);
+struct FileLists : ::testing::Test {
+    std::string dir = scratchDir();
+    std::string out = scratchDir() + "/list.txt";
+    void SetUp() override {
+        for (const char *name : {"a.txt", "b.TXT", "c.log", "ab.txt", "sub/d.txt", "sub/deep/e.txt",
+                                 "sub/f.log", "\xc3\xa4.txt"}) {
+            fs::create_directories(fs::path(dir + "/" + name).parent_path());
+            writeFile(dir + "/" + name, "x");
+        }
+    }
+    void TearDown() override {
+        fs::remove_all(dir);
+        fs::remove_all(fs::path(out).parent_path());
+    }
+    std::string listed(std::initializer_list<const char *> names) const {
+        std::string s;
+        for (const char *n : names) s += dir + "/" + n + "\n";
+        return s;
+    }
+};
+
+TEST_F(FileLists, ScanMatchesIncludeAndExcludeLists) {
+    struct Case {
+        const char16_t *include, *exclude;
+        int32_t subdirs, flags;
+        std::vector<const char *> names;
+    } cases[] = {
+        {u"*.txt", u"", 0, 0, {"a.txt", "ab.txt", "\xc3\xa4.txt"}},
+        {u"*.txt;*.log", u"", 0, 0, {"a.txt", "ab.txt", "c.log", "\xc3\xa4.txt"}},
+        {u"*", u"a*", 0, 0, {"b.TXT", "c.log", "\xc3\xa4.txt"}},
+        {u"?.txt", u"", 0, 0, {"a.txt", "\xc3\xa4.txt"}},
+        {u"*.txt", u"ab.txt; a.txt", 1, 0, {"\xc3\xa4.txt", "sub/d.txt", "sub/deep/e.txt"}},
+        {u"\u00e4*", u"", 0, 0, {"\xc3\xa4.txt"}},
+        {u"*.log", u"", 0, 1, {"c.log", "sub/f.log"}},
+        {u"", u"*.txt;*.TXT", 0, 0, {"c.log"}},
+        {u"*.TXT", u"", 0, 0, {"b.TXT"}},
+        {u"none*", u"", 1, 0, {}},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(toUtf8(c.include) + " / " + toUtf8(c.exclude));
+        std::string expected;
+        for (const char *n : c.names) expected += dir + "/" + n + "\n";
+        EXPECT_EQ(flScanDirectory(fromUtf8(dir).c_str(), c.include, c.exclude, fromUtf8(out).c_str(),
+                                  c.subdirs, c.flags),
+                  int32_t(c.names.size()));
+        EXPECT_EQ(readFile(out), expected);
+    }
 }
 
+struct SpecialFiles : ::testing::Test {
+    std::string dir = scratchDir();
+    std::string fifo = dir + "/pipe";
+    void SetUp() override { ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0); }
+    MacroRun run(const std::string &body) { return runMemory(u16(body)); }
+    bool isFifo(const std::string &path) {
+        struct stat st;
+        return lstat(path.c_str(), &st) == 0 && S_ISFIFO(st.st_mode);
+    }
+};
+
 }  // namespace
+
+TEST_F(SpecialFiles, OpenFileRefusesAFifoInsteadOfWaitingForAWriter) {
+    MacroRun r = run("Print(OpenFile(\"" + fifo + "\", \"r\")); Print(OpenFile(\"" + fifo + "\", \"w\"));");
+    EXPECT_EQ(r.result, 0);
+    std::string refused = "Makrofehler: Fehler in Zeile 1 des Makros \n\nDie Datei '" + fifo +
+                          "' ist bereits im Zugriff\n\n0\n";
+    EXPECT_EQ(r.output, refused + refused);
+    EXPECT_TRUE(isFifo(fifo));
+}
+
+TEST_F(SpecialFiles, DevicesAreNoFilesForCopyProfilesOrTheLoader) {
+    MacroRun r = run("char s[20]; Print(CopyFile(\"/dev/zero\", \"" + dir + "/copy\"));"
+                     " ReadProfile(\"/dev/zero\", \"a\", \"b\", s); Print(StrLen(s));"
+                     " ReadProfile(\"" + fifo + "\", \"a\", \"b\", s); Print(StrLen(s));");
+    EXPECT_EQ(r.result, 0);
+    EXPECT_EQ(r.output, "1\n0\n0\n");
+    EXPECT_EQ(access((dir + "/copy").c_str(), F_OK), -1);
+    CoreRun c = runCore(u16(fifo), true);
+    EXPECT_EQ(c.errorCode, 115);
+    EXPECT_EQ(runCore(u"/dev/zero", true).errorCode, 115);
+}
+
+TEST_F(SpecialFiles, WriteProfileWritesThroughALinkAndLeavesSpecialFilesAlone) {
+    writeFile(dir + "/real.ini", "[s]\nold=1\n");
+    ASSERT_EQ(symlink("real.ini", (dir + "/link.ini").c_str()), 0);
+    ASSERT_EQ(symlink("missing.ini", (dir + "/dangling.ini").c_str()), 0);
+    MacroRun r = run("WriteProfile(\"" + dir + "/link.ini\", \"s\", \"new\", \"2\");"
+                     "WriteProfile(\"" + fifo + "\", \"s\", \"k\", \"v\");"
+                     "WriteProfile(\"" + dir + "/dangling.ini\", \"s\", \"k\", \"v\");");
+    EXPECT_EQ(r.result, 0);
+    struct stat st;
+    ASSERT_EQ(lstat((dir + "/link.ini").c_str(), &st), 0);
+    EXPECT_TRUE(S_ISLNK(st.st_mode));
+    EXPECT_EQ(readFile(dir + "/real.ini"), "[s]\r\nold=1\r\nnew=2\r\n");
+    EXPECT_TRUE(isFifo(fifo));
+    ASSERT_EQ(lstat((dir + "/dangling.ini").c_str(), &st), 0);
+    EXPECT_TRUE(S_ISLNK(st.st_mode));
+    EXPECT_EQ(access((dir + "/missing.ini").c_str(), F_OK), -1);
+}
+
+TEST_F(SpecialFiles, XmlWriteFileReportsAWriteThatFailed) {
+    // A file size limit makes the writes fail on a regular file, as a full
+    // disk or an exhausted quota would.
+    std::string body;
+    for (int i = 0; i < 200; ++i) body += " XMLAddChild(XMLGetRoot(d), \"item\", \"some text to fill the file\");";
+    struct rlimit saved;
+    getrlimit(RLIMIT_FSIZE, &saved);
+    struct rlimit small = saved;
+    small.rlim_cur = 1000;
+    auto oldHandler = signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    MacroRun r = run("int d; d = XMLCreate(\"r\", \"utf8\");" + body + " Print(XMLWriteFile(d, \"" + dir +
+                     "/big.xml\", 0)); XMLDelete(d);");
+    setrlimit(RLIMIT_FSIZE, &saved);
+    signal(SIGXFSZ, oldHandler);
+    EXPECT_EQ(r.result, 0);
+    EXPECT_NE(r.output.find("-10"), std::string::npos) << r.output;
+    EXPECT_EQ(r.output.substr(r.output.size() - 2), "2\n");
+    // A device is refused at the open.
+    r = run("int d; d = XMLCreate(\"r\", \"utf8\"); Print(XMLWriteFile(d, \"/dev/full\", 0)); XMLDelete(d);");
+    EXPECT_EQ(r.output.substr(r.output.size() - 2), "2\n");
+}

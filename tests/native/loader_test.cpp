@@ -134,3 +134,17 @@ TEST(Loader, MemoryMacrosTooLargeAfterNormalisingFailWithoutArgument) {
     EXPECT_EQ(r.errorCode, 152);
     EXPECT_EQ(r.errorArg, "");
 }
+
+TEST(Loader, TooLargeIsCheckedBeforeEachByteOnly) {
+    // Every line's open quote is closed by the loader, so the text grows by
+    // one unit per line: ten such lines fill the buffer to capacity - 10
+    // exactly at the end of the file, which is no byte and no error.
+    std::string dir = scratchDir();
+    std::string text;
+    for (int i = 0; i < 10; ++i) text += "\"\n";
+    writeFile(dir + "/grow.mac", text);
+    EXPECT_NE(runCore(u16(dir + "/grow.mac"), true).errorCode, 152);
+    // Two more, and the last line feed meets the limit.
+    writeFile(dir + "/grow.mac", text + "\"\n\"\n");
+    EXPECT_EQ(runCore(u16(dir + "/grow.mac"), true).errorCode, 152);
+}

@@ -1,15 +1,26 @@
-// The built-in function table: its shape, order, descriptors and spelling
-// flags, rows checked against independently typed expectations, and the named
-// constants as macros see them.
+// The built-in function table as a host walks it: the row count and the
+// all-zero row, the ascending order the lookup relies on, host rows hiding
+// built-ins, and the generated reference (docs/functions.md is rendered from
+// every row, so comparing it with the checked-in file checks every name,
+// number, flag, signature and parameter text), and the dispatch entries:
+// every entry names the signature its handler reads, the signature of the
+// function's rows (the English one where there are two). In this build each
+// read through engine/args.h is checked against that signature, and the
+// macro harness adds every misfit to a run's output, so the case files
+// (which call every implemented function) fail on a handler that reads an
+// argument otherwise than its entry says.
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
-#include "builtins/table.h"
 #include "base/utf8.h"
+#include "builtins/table.h"
+#include "engine/args.h"
+#include "engine/dispatcher.h"
+#include "engine/function_numbers.h"
+#include "interface/families.h"
 #include "macro_harness.h"
 #include "tools/function_descriptions.h"
 #include "tools/mxdoc_render.h"
@@ -25,38 +36,7 @@ std::vector<const FunctionRow *> walkTable() {
     return rows;
 }
 
-const FunctionRow *findRow(const std::u16string &name) {
-    for (const FunctionRow *r : walkTable())
-        if (name == r->name) return r;
-    return nullptr;
-}
-
-size_t indexOf(const std::u16string &name) {
-    auto rows = walkTable();
-    for (size_t i = 0; i < rows.size(); ++i)
-        if (name == rows[i]->name) return i;
-    return SIZE_MAX;
-}
-
 std::string utf8(const char16_t *text) { return text ? mx::toUtf8(text) : "(absent)"; }
-
-// Splits a signature into its descriptors: an optional "*", one letter and an
-// optional "[]". A character that fits no descriptor yields "?".
-std::vector<std::string> descriptors(const std::u16string &sig) {
-    std::vector<std::string> out;
-    for (size_t i = 0; i < sig.size();) {
-        std::string d;
-        if (sig[i] == u'*') d += '*', ++i;
-        if (i >= sig.size() || (sig[i] != u'C' && sig[i] != u'D' && sig[i] != u'L' && sig[i] != u'X')) {
-            out.push_back("?");
-            return out;
-        }
-        d += char(sig[i++]);
-        if (sig.compare(i, 2, u"[]") == 0) d += "[]", i += 2;
-        out.push_back(d);
-    }
-    return out;
-}
 
 TEST(BuiltinTable, HasExactly318RowsThenTheAllZeroRow) {
     EXPECT_EQ(mx::kBuiltinRows, 318);
@@ -68,195 +48,12 @@ TEST(BuiltinTable, HasExactly318RowsThenTheAllZeroRow) {
     EXPECT_EQ(end.paramNames, nullptr);
 }
 
-TEST(BuiltinTable, Holds286FunctionRowsUnder196NumbersAnd32Constants) {
-    size_t functions = 0, constants = 0;
-    std::set<uint32_t> numbers;
-    for (const FunctionRow *r : walkTable()) {
-        if (r->signature) {
-            ++functions;
-            numbers.insert(r->identifier & mx::kFunctionNumberMask);
-            EXPECT_NE(r->paramNames, nullptr) << utf8(r->name);
-        } else {
-            ++constants;
-            EXPECT_EQ(r->paramNames, nullptr) << utf8(r->name);
-        }
-    }
-    EXPECT_EQ(functions, 286u);
-    EXPECT_EQ(constants, 32u);
-    EXPECT_EQ(numbers.size(), 196u);
-    // Numbers are 1 to 306 or the list dialogs' 9000 and 9001.
-    for (uint32_t n : numbers) EXPECT_TRUE((n >= 1 && n <= 306) || n == 9000 || n == 9001) << n;
-}
-
+// Upper-case initials before lower-case ones, diacritics after ASCII: by code unit.
 TEST(BuiltinTable, NamesAreUniqueAndStrictlyAscendingByCodeUnit) {
     auto rows = walkTable();
     for (size_t i = 1; i < rows.size(); ++i)
         EXPECT_LT(std::u16string(rows[i - 1]->name), std::u16string(rows[i]->name))
             << utf8(rows[i - 1]->name) << " / " << utf8(rows[i]->name);
-    // Upper-case initials before lower-case ones, diacritics after ASCII.
-    const char16_t *chain[] = {u"ABORT", u"AbbAppendButton", u"AsciiToAnsi", u"AuffüllenTextLinks"};
-    for (size_t i = 1; i < std::size(chain); ++i) EXPECT_LT(indexOf(chain[i - 1]), indexOf(chain[i]));
-    EXPECT_LT(indexOf(u"DateinameDialog"), indexOf(u"DateiÖffnen"));
-    EXPECT_NE(indexOf(u"DateiÖffnen"), SIZE_MAX);
-}
-
-TEST(BuiltinTable, DescriptorCountsOverAllSignatures) {
-    std::map<std::string, int> counts;
-    for (const FunctionRow *r : walkTable())
-        if (r->signature)
-            for (const std::string &d : descriptors(r->signature)) ++counts[d];
-    const std::map<std::string, int> expected = {
-        {"L", 289}, {"C[]", 281}, {"*C[]", 119}, {"*L", 31},
-        {"C", 12},  {"D", 8},     {"*D", 8},     {"X", 1},
-    };
-    EXPECT_EQ(counts, expected);
-}
-
-// German names, typed from the function lists; each carries the spelling flag.
-const char16_t *const kGermanNames[] = {
-    u"LinkerText", u"RechterText", u"MittlererText", u"AuffüllenTextLinks", u"AuffüllenTextRechts",
-    u"TextAnhängen", u"TextVergleich", u"IstTextEnthalten", u"TextGroß", u"TextKlein",
-    u"TextLänge", u"ZeichenGroß", u"ZeichenKlein", u"LöscheSteuerzeichen", u"IstAlpha",
-    u"IstAlphaNumerisch", u"AsciiNachAnsi", u"AnsiNachAscii", u"TrimRechts", u"TrimLinks",
-    u"TransformiereText", u"ZahlNachText", u"TextNachZahl", u"GleitNachText", u"TextNachGleit",
-    u"GleitNachZifferNamen", u"GibHeute", u"FormatiereDatum", u"GibHeuteFormatiert",
-    u"DmNachEuro", u"EuroNachDm", u"DatumNachZahl", u"ZahlNachDatum", u"ZerlegeDatum",
-    u"ErzeugeDatum", u"DateiKopieren", u"DateiÖffnen", u"DateiSchließen", u"DateiLesen",
-    u"DateiSchreiben", u"DateiUmbenennen", u"DateiLöschen", u"BildeDateiname",
-    u"StripVerzeichnis", u"StripNameUndExtension", u"IniDateiLesen", u"IniDateiSchreiben",
-    u"GibAppName", u"GibBenutzerPfad", u"GibWindowsPfad", u"ErzeugeDateinamenListe",
-    u"GibProgrammPfad", u"Piep", u"MdiGibAktives", u"MdiAktiviere", u"MdiAktiviereNächstes",
-    u"MdiWiederherstelle", u"MdiMaximiere", u"MdiIstMaximiert", u"GibTitel",
-    u"FensterMaximiere", u"FensterMinimiere", u"FensterWiederherstelle", u"FensterAktiviere",
-    u"FensterGibAktives", u"ClipBoardLesen", u"ClipBoardSchreiben", u"StarteProgrammNM",
-    u"GibFenster", u"GibEnvironment", u"SendeNachricht", u"NachrichtBox", u"GanzzahlDialog",
-    u"NachrichtDialog", u"EingabeDialogPosition", u"ListenDialog", u"ListenDialogMultiSelect",
-    u"ListenDialogAnsi", u"ListenDialogAnsiMultiSelect", u"DateinameDialog", u"IstDeklariert",
-    u"StarteMakro", u"GibMakroParameter", u"SetzeFluchtsymbol", u"TraceFunktion",
-    u"TraceZuweisung", u"TraceDatei",
-};
-
-// English rows that carry the flag although no unflagged twin exists.
-const char16_t *const kFlaggedEnglish[] = {
-    u"MakeText5",      u"InputDialogPosition",   u"SetDialogPosition", u"SetDialogSize",
-    u"ListDialog",     u"ListDialogMultiSelect", u"ListDialogAnsi",    u"ListDialogAnsiMultiSelect",
-};
-
-TEST(BuiltinTable, ExactlyTheGermanRowsAndTheListedEnglishOnesCarryTheFlag) {
-    std::set<std::u16string> expected(std::begin(kGermanNames), std::end(kGermanNames));
-    ASSERT_EQ(expected.size(), 87u);
-    expected.insert(std::begin(kFlaggedEnglish), std::end(kFlaggedEnglish));
-    std::set<std::u16string> flagged;
-    for (const FunctionRow *r : walkTable())
-        if (r->signature && (r->identifier & mx::kSpellingFlag)) flagged.insert(r->name);
-    EXPECT_EQ(flagged, expected);
-    for (const FunctionRow *r : walkTable()) {
-        if (r->signature) { EXPECT_EQ(r->identifier >> 17, 0u) << utf8(r->name); }
-    }
-}
-
-TEST(BuiltinTable, GermanRowsHaveAnEnglishTwinWithTheSameSignature) {
-    std::map<uint32_t, std::vector<const FunctionRow *>> byNumber;
-    for (const FunctionRow *r : walkTable())
-        if (r->signature) byNumber[r->identifier & mx::kFunctionNumberMask].push_back(r);
-    for (const char16_t *german : kGermanNames) {
-        const FunctionRow *g = findRow(german);
-        ASSERT_NE(g, nullptr) << utf8(german);
-        bool hasTwin = false;
-        for (const FunctionRow *r : byNumber[g->identifier & mx::kFunctionNumberMask])
-            hasTwin |= r != g && std::u16string(g->signature) == r->signature;
-        // AnsiNachAscii has no twin; ZahlNachDatum's signature differs from its twin's.
-        bool exempt = std::u16string(german) == u"AnsiNachAscii" || std::u16string(german) == u"ZahlNachDatum";
-        EXPECT_TRUE(hasTwin || exempt) << utf8(german);
-    }
-    EXPECT_EQ(byNumber[62].size(), 1u);
-    EXPECT_EQ(byNumber[60].size(), 4u);
-    EXPECT_EQ(byNumber[9000].size(), 4u);
-    EXPECT_EQ(byNumber[78].size(), 3u);
-}
-
-struct RowCase {
-    const char16_t *name;
-    uint32_t identifier;
-    const char16_t *signature;
-    const char16_t *paramNames;
-};
-
-TEST(BuiltinTable, SpotChecksOfSingleRows) {
-    const RowCase cases[] = {
-        {u"LeftString", 15, u"C[]L*C[]", u"Source, Chars, Destination"},
-        {u"AuffüllenTextLinks", 65554, u"*C[]LC", u"Text, Lng, Zeichen"},
-        {u"MakeText5", 65662, u"*C[]C[]C[]C[]C[]C[]C[]", u"Result,Pattern,P1,P2,P3,P4,P5"},
-        {u"ZahlNachText", 65546, u"L*C[]CC", u""},
-        {u"ZahlNachDatum", 65640, u"LC[]", u""},
-        {u"IntToDate", 104, u"L*C[]", u"Int,Date"},
-        {u"GleitNachText", 65548, u"D*C[]CC", u"Wert,Textpuffer,Nachkommastellen,Tausendertrenner"},
-        {u"DateiÖffnen", 65538, u"C[]C[]", u"Dateiname,ModusText"},
-        {u"GibWindowsPfad", 65596, u"*C[]", u"Ziel"},
-        {u"GetUserPath", 60, u"*C[]", u"Dest"},
-        {u"MdiAktiviereNächstes", 65588, u"", u""},
-        {u"GetCommandLineCount", 165, u"", u""},
-        {u"SendMail", 172, u"C[]C[]C[]C[]C[]C[]C[]L", u"Sender, Receivers, Ccs, Bccs, Subject, Text, Files, Flags"},
-        {u"EingabeDialogPosition", 65614, u"LL", u"Links, Oben"},
-        {u"SetDialogSize", 65655, u"LL", u"Width, Height"},
-        {u"ListenDialogAnsiMultiSelect", 74537, u"C[]C[]LLLLLL*C[]*C[]",
-         u"Title, ListFile, xPos, yPos, Width, Height, Scrollwidth, Sort, Desti1, Desti2"},
-        {u"ListDialog", 74536, u"C[]C[]LLLLLL*C[]*C[]",
-         u"Title, ListFile, xPos, yPos, Width, Height, ScrollWidth, Sort, Desti1, Desti2"},
-        {u"RtfDialog", 94, u"C[]C[]LLLLL", u"RTF-File,Title,Col,Line,Width,Height,Zoom"},
-        {u"ScanBufferForRegExp", 151, u"C[]LC[]L*LL", u"Buffer, Size, RegExp, Start, MatchLng, Flags"},
-        {u"OdbcAddFields", 206, u"LC[]C[]C[]*DL", u"Handle, Table, Field, WhereClause, Result, Flags"},
-        {u"DDERequest", 92, u"LC[]L*C[]L", u"Channel, Item, Format, Data, WaitMilliSecs"},
-        {u"Dim", 28, u"X", u"VariableName"},
-        {u"GibMakroParameter", 65569, u"L*C[]", u"ParameterNummer,Textpuffer"},
-        {u"CallWithParams", 192, u"C[]C[]C[]C[]C[]C[]", u"Macro, P1, P2, P3, P4, P5"},
-        {u"TraceDialog", 96, u"L", u"Mode"},
-        {u"XMLWriteFile", 306, u"LC[]L", u"xmlctl, filename, flags"},
-    };
-    for (const RowCase &c : cases) {
-        const FunctionRow *r = findRow(c.name);
-        ASSERT_NE(r, nullptr) << utf8(c.name);
-        EXPECT_EQ(r->identifier, c.identifier) << utf8(c.name);
-        EXPECT_EQ(utf8(r->signature), utf8(c.signature)) << utf8(c.name);
-        EXPECT_EQ(utf8(r->paramNames), utf8(c.paramNames)) << utf8(c.name);
-    }
-}
-
-TEST(BuiltinTable, NamedConstantsAndTheirValues) {
-    const std::map<std::u16string, uint32_t> expected = {
-        {u"OK", 1}, {u"ABORT", 2}, {u"ABBRUCH", 2}, {u"YES", 4}, {u"JA", 4}, {u"NO", 8},
-        {u"NEIN", 8}, {u"EXCL", 33}, {u"EXCLAIM", 33}, {u"AUSRUF", 33}, {u"QUEST", 63},
-        {u"FRAGE", 63}, {u"INFO", 73}, {u"STOP", 83}, {u"HKCU", 1}, {u"HKEY_CURRENT_USER", 1},
-        {u"HKLM", 2}, {u"HKEY_LOCAL_MACHINE", 2}, {u"SORT", 1}, {u"MULTI", 2}, {u"LVD_GRID", 1},
-        {u"LVD_FULL", 2}, {u"BUTTSTAT_NEWLINE", 16}, {u"BUTTSTAT_NEWGROUP", 32}, {u"READ", 16},
-        {u"LESEN", 16}, {u"WRITE", 32}, {u"SCHREIBEN", 32}, {u"ASCII", 4}, {u"REGEXP_DOTALL", 1},
-        {u"DOUBLEQUOTE", 34}, {u"SINGLEQUOTE", 39},
-    };
-    std::map<std::u16string, uint32_t> found;
-    for (const FunctionRow *r : walkTable())
-        if (!r->signature) found[r->name] = r->identifier;
-    EXPECT_EQ(found, expected);
-}
-
-struct MacroCase {
-    const char *body;
-    const char *output;
-};
-
-TEST(BuiltinTable, ConstantsWorkInMacroFormulas) {
-    const MacroCase cases[] = {
-        {"Print(STOP);", "83\n"},
-        {"int x; x = AUSRUF + DOUBLEQUOTE * 2; Print(x);", "101\n"},
-        {"Print(HKEY_LOCAL_MACHINE - HKCU);", "1\n"},
-        // The keyword stop ends the macro; the constant STOP does not.
-        {"Print(STOP); stop; Print(1);", "83\n"},
-        {"int i; i = 0; while (1) begin i = i + 1; if (i == 3) abbruch; end Print(ABBRUCH + i);", "5\n"},
-    };
-    for (const MacroCase &c : cases) {
-        MacroRun r = runMemory(u16(c.body));
-        EXPECT_EQ(r.result, 0) << c.body;
-        EXPECT_EQ(r.output, c.output) << c.body;
-    }
 }
 
 // The host's StrLen answers 4711; its Print prints a long.
@@ -304,19 +101,93 @@ TEST(FunctionDocs, TheCheckedInReferenceIsTheGeneratedOne) {
            "./build/native/tools/mxdoc > docs/functions.md";
 }
 
-TEST(FunctionDocs, TheReferenceShowsRowsAsTheTableHasThem) {
-    std::string doc = mxdoc::docRender();
-    const char *lines[] = {
-        "| 15 | `LeftString` (15), `LinkerText` (65551) | `C[]L*C[]` | \"Source, Chars, Destination\" "
-        "(`LeftString`); \"Quelle, Anzahl, Ziel\" (`LinkerText`) |",
-        "| 104 | `IntToDate` (104), `ZahlNachDatum` (65640) | `L*C[]` (`IntToDate`); `LC[]` "
-        "(`ZahlNachDatum`) |",
-        "| 113 | `GetScreenHeight` (113) | (none) | \"\" |",
-        "| `STOP` | 83 | ",
-    };
-    for (const char *line : lines) EXPECT_NE(doc.find(line), std::string::npos) << line;
-    EXPECT_NE(doc.find("318 rows: 286 function rows under 196 function numbers, and 32 named constants"),
-              std::string::npos);
-}
+// Restores the real families after a test installed its own.
+struct RealFamiliesAfterwards {
+    ~RealFamiliesAfterwards() { mx::installBuiltinFamilies(); }
+};
 
 }  // namespace
+
+using namespace mx;
+
+TEST(Dispatch, NumbersWithoutImplementationAnswerZero) {
+    mx::RunContext ctx;
+    for (int32_t n : {0, -1, 94, 150, 151, 160, 161, 307, 8999, 9002, 65536})
+        EXPECT_EQ(mx::dispatchCall(ctx, n, nullptr, 0), 0) << n;
+}
+
+TEST(Signatures, EveryEntryReadsTheSignatureOfItsRows) {
+    installBuiltinFamilies();
+    std::set<int32_t> withRow;  // some numbers have only a German-spelt row
+    for (const FunctionRow *r = biTable(); r->name; ++r) {
+        if (!r->signature) continue;  // a named constant
+        int32_t number = int32_t(r->identifier & kFunctionNumberMask);
+        const DispatchEntry *e = dispatchEntry(number);
+        if (!e) continue;
+        SCOPED_TRACE(toUtf8(r->name));
+        ASSERT_NE(e->reads, nullptr);
+        bool german = (r->identifier & kSpellingFlag) != 0;
+        withRow.insert(number);
+        // The one known deviation: ZahlNachDatum is printed "LC[]" while
+        // IntToDate reads "L*C[]"; the handler writes the text either way.
+        if (german && number == fnum::IntToDate) {
+            EXPECT_EQ(toUtf8(r->signature), "LC[]");
+            EXPECT_EQ(toUtf8(e->reads), "L*C[]");
+            continue;
+        }
+        EXPECT_EQ(toUtf8(e->reads), toUtf8(r->signature));
+    }
+    for (int32_t n = 0; n <= fnum::ListDialogAnsi; ++n)
+        if (dispatchEntry(n)) {
+            EXPECT_TRUE(withRow.count(n)) << "no row for implemented number " << n;
+        }
+    EXPECT_GT(withRow.size(), 100u);
+}
+
+TEST(Signatures, ReadsAreCheckedAgainstTheEntryByPosition) {
+    ASSERT_TRUE(kCheckArgReads) << "the test build checks every argument read";
+    argReadFaults();
+    int32_t number = 7;
+    char16_t text[8] = u"abc";
+    Value l{kOwning, kLong, &number, 0, nullptr, 0, 0};
+    Value t{kReference, kChar, text, 8, nullptr, 0, 0};
+    Value *args[] = {&l, &t};
+    {
+        ArgReadScope scope(fnum::IntToDate, u"L*C[]", args, 2);
+        EXPECT_EQ(argLong(args[0]), 7);
+        EXPECT_EQ(argCapacity(args[1]), 8);
+        argText(args[1]);
+        EXPECT_EQ(argReadFaults(), "");
+        argText(args[0]);
+        argLongRef(args[1]);
+        Value stranger = l;
+        argLong(&stranger);
+        EXPECT_EQ(argReadFaults(),
+                  "function 104 reads argument 1 as a text (C[] or *C[]), its entry says L\n"
+                  "function 104 reads argument 2 as *L, its entry says *C[]\n"
+                  "function 104 reads a value that is none of its arguments as L\n");
+        {
+            ArgReadScope inner(fnum::Dim, u"X", args + 1, 1);
+            argLong(args[1]);  // X hands over anything
+            argLong(args[0]);  // not an argument of the inner call
+        }
+        argLong(args[0]);  // the outer call counts again
+        EXPECT_EQ(argReadFaults(), "function 28 reads a value that is none of its arguments as L\n");
+    }
+    argLong(args[1]);  // outside any call there is nothing to check
+    EXPECT_EQ(argReadFaults(), "");
+}
+
+TEST(Signatures, AMacroRunReportsAHandlerReadingOtherwiseThanItsEntry) {
+    ASSERT_TRUE(kCheckArgReads) << "the test build checks every argument read";
+    RealFamiliesAfterwards restore;
+    // StrLen's entry claims a long but the handler reads a text.
+    static const DispatchEntry kWrong[] = {
+        {fnum::StrLen, u"L", [](RunContext &, Value **a, int32_t) { return int32_t(argText(a[0]) != nullptr); }},
+    };
+    static const DispatchFamily kWrongFamily = {"wrong", kWrong, 1};
+    static const DispatchFamily *const kFamilies[] = {&kWrongFamily};
+    dispatchInstall(kFamilies, 1);
+    MacroRun r = runMemory(u"Print(StrLen(\"abc\"));");
+    EXPECT_EQ(r.output, "1\nfunction 25 reads argument 1 as a text (C[] or *C[]), its entry says L\n");
+}

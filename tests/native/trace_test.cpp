@@ -1,4 +1,5 @@
-// Tracing: the line formats, the file and the boxes, and their switches.
+// Trace line formats of values, assignments and calls (the trace file, the
+// boxes and their switches are cases in tests/cases/language.cases).
 #include <gtest/gtest.h>
 
 #include "engine/trace.h"
@@ -13,15 +14,6 @@ std::string formatted(const mx::Value &v) {
     mx::trFormatValue(&v, buf, mx::kTraceValueCapacity);
     return mx::toUtf8(buf);
 }
-
-struct TraceFiles : ::testing::Test {
-    std::string dir = scratchDir();
-    std::string trace() { return readFile(dir + "/t.txt"); }
-    MacroRun run(const std::string &body) {
-        return runMemory(u16("TraceFile(\"" + dir + "/t.txt\");\n" + body));
-    }
-};
-
 }  // namespace
 
 TEST(TraceFormat, Values) {
@@ -74,58 +66,4 @@ TEST(TraceFormat, CallLinesAreCutAt999) {
     mx::Value *two[2] = {&small, &small};
     mx::trFormatCall(12, u"StrLen", two, 2, 3, buf, mx::kTraceLineCapacity);
     EXPECT_EQ(mx::toUtf8(buf), "Zeile 12    Funktionsaufruf    StrLen (1, 1)    Funktionswert: 3");
-}
-
-TEST_F(TraceFiles, CallsAndAssignmentsGoToTheFile) {
-    // A switch takes effect for the call that sets it: TraceFunction(1) is
-    // traced, TraceFunktion(2) is not.
-    MacroRun r = run("int x; char s[9]; TraceFunction(1);\nx = Dim(\"ab%d\");\nTraceAssign(1);\n"
-                     "s = \"a\\tb\";\nTraceFunktion(2);\nx = Dim(s);\nTraceZuweisung(0); x = 1;");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(trace(),
-              "Zeile 2    Funktionsaufruf    TraceFunction (1)    Funktionswert: 0\r\n"
-              "Zeile 3    Funktionsaufruf    Dim (\"ab%d\")    Funktionswert: 4\r\n"
-              "Zeile 4    Funktionsaufruf    TraceAssign (1)    Funktionswert: 0\r\n"
-              "Zeile 5    Zuweisung    s=\"a\\tb\"\r\n"
-              "Zeile 7    Zuweisung    x=8\r\n");
-}
-
-TEST_F(TraceFiles, WithoutATraceFileNothingIsWritten) {
-    MacroRun r = runMemory(u"int x; TraceAssign(1); TraceFunction(1); x = Dim(\"a\");");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(r.output, "");
-}
-
-TEST_F(TraceFiles, TheFileIsClosedWhenTheRunFails) {
-    MacroRun r = run("TraceFunction(1); x = 1;");
-    EXPECT_EQ(r.result, -1);
-    EXPECT_EQ(trace(), "Zeile 2    Funktionsaufruf    TraceFunction (1)    Funktionswert: 0\r\n");
-    // Closed: a second run may create it anew.
-    EXPECT_EQ(run("TraceFunction(1);").result, 0);
-}
-
-TEST_F(TraceFiles, TraceFileAnswersWhetherItOpened) {
-    MacroRun r = runMemory(u16("Print(TraceFile(\"" + dir + "/no/such/dir/t.txt\")); Print(TraceDatei(\"" + dir +
-                               "/ok.txt\"));"));
-    EXPECT_EQ(r.output, "0\n1\n");
-}
-
-TEST_F(TraceFiles, TraceDialogShowsEveryCallAndAssignment) {
-    MacroRun r = runMemory(u"int x; TraceDialog(1); x = Dim(\"ab\"); TraceDialog(0); x = 2;");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(r.output,
-              "Morvix Macro Trace: Zeile 1    Funktionsaufruf    TraceDialog (1)    Funktionswert: 0\n"
-              "Morvix Macro Trace: Zeile 1    Funktionsaufruf    Dim (\"ab\")    Funktionswert: 2\n"
-              "Morvix Macro Trace: Zeile 1    Zuweisung    x=2\n");
-}
-
-TEST_F(TraceFiles, NestedRunsStartWithTracingOff) {
-    writeFile(dir + "/sub.mac", "Macro \"S\" begin int y; y = Dim(\"abc\"); end");
-    MacroRun r = run("int x; TraceFunction(1); TraceAssign(1);\nx = Call(\"" + dir + "/sub.mac\");");
-    EXPECT_EQ(r.result, 0);
-    EXPECT_EQ(trace(),
-              "Zeile 2    Funktionsaufruf    TraceFunction (1)    Funktionswert: 0\r\n"
-              "Zeile 2    Funktionsaufruf    TraceAssign (1)    Funktionswert: 0\r\n"
-              "Zeile 3    Funktionsaufruf    Call (\"" + dir + "/sub.mac\")    Funktionswert: 0\r\n"
-              "Zeile 3    Zuweisung    x=0\r\n");
 }

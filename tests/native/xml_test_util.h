@@ -11,6 +11,7 @@
 #include "base/utf8.h"
 #include "macro_harness.h"
 #include "platform/platform.h"
+#include "xml/xml_alloc.h"
 #include "xml/xml_model.h"
 #include "xml/xml_writer.h"
 
@@ -69,6 +70,11 @@ inline int shell(const std::string &command) {
 }
 
 // Captures every box shown while alive, as "TITLE: TEXT" lines.
+// Ends any allocation failure a test switched on.
+struct AllocationGuard {
+    ~AllocationGuard() { mx::xml::xmlFailAllocationsAfter(-1); }
+};
+
 class BoxCapture {
 public:
     BoxCapture() {

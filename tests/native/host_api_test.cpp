@@ -1,10 +1,14 @@
-// Host functions: lookup, argument reading, checking and binding against the
-// signature, the callback, the sort check and the abort callback.
+// The library as a host sees it: host functions (lookup, binding against the
+// signature, the callback, the sort check, a table changed between runs),
+// the abort callback, the error box's text and the version the exports give.
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <string>
 
 #include "base/utf8.h"
+#include "engine/errors.h"
+#include "engine/run_context.h"
 #include "macro_harness.h"
 
 namespace {
@@ -67,6 +71,11 @@ MacroRun run(const std::string &body) {
 
 std::string boxFor(const std::string &message) {
     return "Makrofehler: Fehler in Zeile 1 des Makros \n\n" + message + "\n\n";
+}
+
+LONG CALLBACK tableHost(LONG number, MX_VALUE **args, LONG, LONG_PTR) {
+    if (number == 1) harnessPrint(std::to_string(*static_cast<LONG *>(args[0]->data)));
+    return number * 10;
 }
 
 }  // namespace
@@ -160,4 +169,88 @@ TEST(HostCall, AbortEndsTheRunWithoutABox) {
     EXPECT_EQ(r.output, "1\n2\n");
     r = runMemory(u"Print(1);", 1, nullptr, 5);
     EXPECT_EQ(r.result, 0);
+}
+
+TEST(HostCall, AnAbortedNestedRunShowsItsBox) {
+    std::string dir = scratchDir(), main = dir + "/abort.mac";
+    writeFile(dir + "/sub.mac", "Macro \"Sub\" begin Print(1); Print(2); end");
+    writeFile(main, "Macro \"A\" begin Call(\"" + dir + "/sub.mac\"); Print(5); end");
+    MacroRun r = runFile(u16(main), 1, 2);
+    EXPECT_EQ(r.result, -2);
+    // The nested run is aborted after its second call and shows its box; the
+    // caller's next question to the abort callback ends the whole run.
+    EXPECT_EQ(r.output, "1\n2\nMakrofehler: Fehler in Zeile 1 des Makros " + main +
+                            "\n\nDas Makro wurde abgebrochen\n\n");
+}
+
+// The host may change its table between two runs at the same address: a name
+// whose first character no row of the first table had must be found in the
+// second, and a name gone from it must not.
+TEST(HostCall, AHostTableChangedBetweenRunsIsReadAfresh) {
+    MX_FUNCTION_ROW rows[] = {
+        {u"Print", 1, u"L", u"Value"}, {u"Zeta", 2, u"", u""}, {nullptr, 0, nullptr, nullptr},
+        {nullptr, 0, nullptr, nullptr},
+    };
+    MacroRun first = runMemoryWithHost(u"Print(Zeta());", rows, tableHost);
+    EXPECT_EQ(first.output, "20\n");
+    rows[1].name = u"zeta";
+    MacroRun second = runMemoryWithHost(u"Print(zeta());", rows, tableHost);
+    EXPECT_EQ(second.result, 0);
+    EXPECT_EQ(second.output, "20\n");
+    rows[2] = {u"\u00C4rger", 3, u"", u""};
+    MacroRun grown = runMemoryWithHost(u"Print(\u00C4rger());", rows, tableHost);
+    EXPECT_EQ(grown.output, "30\n");
+    MacroRun third = runMemoryWithHost(u"Print(Zeta());", rows, tableHost);
+    EXPECT_EQ(third.result, -1);
+    EXPECT_NE(third.output.find("Variable 'Zeta' ist nicht deklariert"), std::string::npos);
+}
+
+// The box names the line and the whole command of a file macro.
+TEST(ErrorBox, NamesLineMacroAndMessage) {
+    std::string dir = scratchDir();
+    writeFile(dir + "/a.mac", "Macro \"A\" begin\n\n\n\n\n\nzahl1 = 3;\nend\n");
+    MacroRun r = runFile(u16(dir + "/a.mac 1 2"));
+    EXPECT_EQ(r.result, -1);
+    EXPECT_EQ(r.output, "Makrofehler: Fehler in Zeile 7 des Makros " + dir +
+                            "/a.mac 1 2\n\nVariable 'zahl1' ist nicht deklariert\n\n");
+    writeFile(dir + "/b.mac", "macro \"B\" begin end");
+    EXPECT_EQ(runFile(u16(dir + "/b.mac")).output,
+              "Makrofehler: Fehler in Zeile 1 des Makros " + dir + "/b.mac\n\nSchlüsselwort 'Macro' fehlt\n\n");
+}
+
+TEST(ErrorBox, ArgumentsAreCutAndOnlyFilledInWhenTheyFit) {
+    mx::RunContext ctx;
+    std::u16string longArg(200, u'a');
+    mx::errSet(ctx, 125, longArg.c_str());
+    EXPECT_EQ(mx::toUtf8(ctx.errorArg), std::string(127, 'a'));
+    char16_t text[300];
+    mx::errFormatMessage(ctx, text, 300);
+    EXPECT_EQ(mx::toUtf8(text), "Variable '" + std::string(127, 'a') + "' ist nicht deklariert");
+    // 156 is long enough that a 127-character argument does not fit in 200 units.
+    mx::errSet(ctx, 156, longArg.c_str());
+    mx::errFormatMessage(ctx, text, 300);
+    EXPECT_EQ(mx::toUtf8(text), "s Die Zieldatei der Datenbankselektion  '%s'  kann nicht angelegt werden.");
+    mx::errSet(ctx, 156, u"x.txt");
+    mx::errFormatMessage(ctx, text, 300);
+    EXPECT_EQ(mx::toUtf8(text), "s Die Zieldatei der Datenbankselektion  'x.txt'  kann nicht angelegt werden.");
+    mx::errSet(ctx, 134, u"ignored");
+    mx::errFormatMessage(ctx, text, 300);
+    EXPECT_EQ(mx::toUtf8(text), "Division durch Null");
+    mx::errSet(ctx, 5555, u"x");
+    EXPECT_EQ(mx::errFormatMessage(ctx, text, 300), 0);
+}
+
+// The version words of the header, one by one, as the export answers them.
+TEST(Version, TheExportAnswersTheHeadersFourWordsInOrder) {
+    char16_t text[32];
+    LONG n = Morvix_GetVersion(text, 32);
+    unsigned v[4] = {};
+    ASSERT_EQ(std::sscanf(mx::toUtf8(text).c_str(), "%u.%u.%u.%u", &v[0], &v[1], &v[2], &v[3]), 4);
+    EXPECT_EQ(v[0], unsigned(MORVIX_VERSION_MAJOR));
+    EXPECT_EQ(v[1], unsigned(MORVIX_VERSION_MINOR));
+    EXPECT_EQ(v[2], unsigned(MORVIX_VERSION_PATCH));
+    EXPECT_EQ(v[3], unsigned(MORVIX_VERSION_BUILD));
+    EXPECT_EQ(n, LONG(std::u16string(text).size()));
+    EXPECT_EQ(Get_MacroLib_Version(text, 4), 3) << "cut to the capacity";
+    EXPECT_EQ(std::u16string(text), u16(MORVIX_VERSION_TEXT).substr(0, 3));
 }
