@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # check_cli.sh HOST... - the --check command of a host (morvix, or wine and
 # mxrun.exe): every error of tests/kit/broken.mac as "FILE:LINE: MESSAGE" and
-# exit status 1; every example and golden macro clean with exit status 0;
+# exit status 1; every example macro clean with exit status 0;
 # the example host's macro clean with that host's names (--host) only.
 set -uo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)

@@ -1,4 +1,4 @@
-// The file tests (and the golden macros) keep the Windows directory's
+// The file tests (and the cases) keep the Windows directory's
 // stand-in and the registry stores in a scratch directory of their own, so
 // no test touches the user's configuration.
 #include <gtest/gtest.h>
