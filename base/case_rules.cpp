@@ -49,4 +49,10 @@ bool caseEqualNames(const std::u16string &a, const std::u16string &b) {
     return true;
 }
 
+std::u16string caseFoldName(const std::u16string &name) {
+    std::u16string folded(name);
+    for (char16_t &c : folded) c = foldForName(c);
+    return folded;
+}
+
 }  // namespace mx

@@ -20,4 +20,8 @@ char16_t caseLatinLower(char16_t c);
 // True when a and b are the same name apart from the case of Latin letters.
 bool caseEqualNames(const std::u16string &a, const std::u16string &b);
 
+// The name with every unit folded as caseEqualNames folds it: two names are
+// equal without case exactly when their folded forms are equal. Same length.
+std::u16string caseFoldName(const std::u16string &name);
+
 }  // namespace mx

@@ -48,4 +48,33 @@ int32_t psStripFilenameIn(char16_t *text, int32_t capacity) {
     return editInPlace(text, capacity, psStripFilename<char16_t>);
 }
 
+bool psNamesDevice(const char16_t *path) {
+    if (!path) return false;
+    if (psIsSeparator(path[0]) && psIsSeparator(path[1]) && path[2] == u'.' && psIsSeparator(path[3])) return true;
+    int32_t start = 0, n = psLength(path);
+    for (int32_t i = 0; i < n; ++i)
+        if (psIsSeparator(path[i]) || path[i] == u':') start = i + 1;
+    // The name before its first dot, without the blanks that end it.
+    int32_t end = start;
+    while (end < n && path[end] != u'.') ++end;
+    while (end > start && path[end - 1] == u' ') --end;
+    char16_t base[8];
+    int32_t len = end - start;
+    if (len < 3 || len > 7) return false;
+    for (int32_t i = 0; i < len; ++i) {
+        char16_t c = path[start + i];
+        base[i] = c >= u'a' && c <= u'z' ? char16_t(c - 32) : c;
+    }
+    base[len] = 0;
+    static const char16_t *const kDevices[] = {u"CON", u"PRN", u"AUX", u"NUL", u"CONIN$", u"CONOUT$"};
+    for (const char16_t *d : kDevices) {
+        int32_t i = 0;
+        while (d[i] && d[i] == base[i]) ++i;
+        if (!d[i] && !base[i]) return true;
+    }
+    bool port = (base[0] == u'C' && base[1] == u'O' && base[2] == u'M') ||
+                (base[0] == u'L' && base[1] == u'P' && base[2] == u'T');
+    return port && len == 4 && base[3] >= u'1' && base[3] <= u'9';
+}
+
 }  // namespace mx

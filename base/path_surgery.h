@@ -65,4 +65,11 @@ int32_t psStripExtensionIn(char16_t *text, int32_t capacity);
 int32_t psStripPathIn(char16_t *text, int32_t capacity);
 int32_t psStripFilenameIn(char16_t *text, int32_t capacity);
 
+// True when Windows would take path for a device instead of a file: a path
+// in the device namespace ("\\\\.\\...") or a last name that is CON, PRN, AUX,
+// NUL, COM1 to COM9, LPT1 to LPT9, CONIN$ or CONOUT$ in any case, also with
+// an extension or trailing dots and blanks ("con.txt", "NUL.", "Com1 .log").
+// Absent is no device. No side effects.
+bool psNamesDevice(const char16_t *path);
+
 }  // namespace mx

@@ -4,6 +4,7 @@
 #include "engine/errors.h"
 #include "engine/eval.h"
 #include "engine/formula_program.h"
+#include "engine/text_end.h"
 #include "engine/trace.h"
 #include "base/u16.h"
 #include "engine/value.h"
@@ -129,12 +130,20 @@ TableInitials gBuiltinInitials;
 // table between runs, never during one.
 TableInitials gHostInitials;
 
-int32_t invoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args, int32_t count) {
+int32_t callee(RunContext &ctx, const FunctionRow *row, bool host, Value **args, int32_t count) {
     int32_t number = int32_t(row->identifier & kFunctionNumberMask);
     if (!host) return dispatchCall(ctx, number, args, count);
     // Without a host callback a host function answers 0.
     if (!ctx.hostCallback) return 0;
     return ctx.hostCallback(number, reinterpret_cast<::MX_VALUE **>(args), count, ctx.callbackValue);
+}
+
+// The call; whatever storage it was handed may have changed.
+int32_t invoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args, int32_t count) {
+    uint64_t stamp = textEndStamp();
+    int32_t result = callee(ctx, row, host, args, count);
+    textEndAfterCall(args, count, stamp);
+    return result;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "engine/errors.h"
 #include "engine/trace.h"
+#include "engine/text_end.h"
 #include "engine/value.h"
 
 namespace mx {
@@ -93,6 +94,7 @@ bool assign(RunContext &ctx, const Value *left, const Value *right, OperatorResu
     if (left->kind != kReference) return errSet(ctx, kErrAssignConstant), false;
     bool leftVector = left->count != 0, rightVector = right->count != 0;
     if (leftVector != rightVector) return errSet(ctx, kErrVectorNotAllowed), false;
+    textEndForget(left->data, size_t(leftVector ? left->count : 1) * size_t(valElementSize(left->type)));
     if (!leftVector) {
         storeScalar(left, right);
     } else {

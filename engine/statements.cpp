@@ -14,6 +14,7 @@ namespace mx {
 
 #ifdef MX_FUZZ
 int64_t stFuzzTurnsLeft = 0;
+int32_t stFuzzTurnsPerLoop = 0;
 #endif
 
 namespace {
@@ -136,6 +137,9 @@ int32_t ifStatement(RunContext &ctx, Mode mode) {
 // while-statement := 'while' condition statement
 int32_t whileStatement(RunContext &ctx, Mode mode) {
     TextPlace start = rdPlace(ctx);
+#ifdef MX_FUZZ
+    int32_t turns = 0;
+#endif
     for (;;) {
         int32_t c = condition(ctx, mode);
         if (c < 0) return kStError;
@@ -147,6 +151,7 @@ int32_t whileStatement(RunContext &ctx, Mode mode) {
                     errSet(ctx, kErrStackOverflow);
                     return kStError;
                 }
+                if (++turns == stFuzzTurnsPerLoop) return kStNormal;  // just after the body
 #endif
                 rdSeek(ctx, start);
                 break;

@@ -27,6 +27,10 @@ int32_t stBlock(RunContext &ctx, Mode mode);
 // Fuzzing builds only: loop turns left before a run fails with error 131,
 // so that endless loops, which are valid macros, do not stall the fuzzer.
 extern int64_t stFuzzTurnsLeft;
+// Fuzzing builds only (0: no limit): a loop ends after this many turns as
+// if its condition had become false, so the statements after a long loop
+// are still reached within the budget above.
+extern int32_t stFuzzTurnsPerLoop;
 #endif
 
 }  // namespace mx

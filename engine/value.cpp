@@ -1,9 +1,11 @@
 #include "engine/value.h"
 
+#include "engine/text_end.h"
 #include <cstdlib>
 #include <cstring>
 
 #include "engine/errors.h"
+#include "engine/text_end.h"
 #include "base/heap.h"
 #include "engine/value_spare.h"
 
@@ -120,7 +122,10 @@ Value *valNewChar(RunContext &ctx, char16_t x) {
 
 void valRelease(Value *v) {
     if (!v) return;
-    if (v->kind == kOwning && !hasInlineElement(v)) std::free(v->data);
+    if (v->kind == kOwning && !hasInlineElement(v)) {
+        textEndForget(v->data, size_t(v->count > 1 ? v->count : 1) * size_t(valElementSize(v->type)));
+        std::free(v->data);
+    }
     giveRecord(v);
 }
 

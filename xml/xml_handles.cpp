@@ -70,10 +70,13 @@ int32_t xmlHandleAddNode(int32_t document, XmlNode *node) {
     XmlDocument *owner = xmlHandleDocument(document);
     if (doc == t.documents.end() || !owner || !node) return 0;
     try {
-        doc->second.nodes.reserve(doc->second.nodes.size() + 1);
+        // Room first, so that the push below cannot fail after the entry is
+        // made; doubling keeps adding n nodes linear.
+        std::vector<int32_t> &nodes = doc->second.nodes;
+        if (nodes.size() == nodes.capacity()) nodes.reserve(nodes.size() * 2 + 16);
         int32_t h = t.next();
         t.entries.emplace(h, Entry{owner, node, document});
-        doc->second.nodes.push_back(h);
+        nodes.push_back(h);
         return h;
     } catch (const std::bad_alloc &) {
         return 0;

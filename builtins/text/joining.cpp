@@ -3,14 +3,20 @@
 namespace mx {
 
 int32_t txtStrCat(char16_t *s, int32_t cap, TextIn add) {
+    int32_t end;
+    return txtStrCatAt(s, cap, txtLen(s, cap), add, &end);
+}
+
+int32_t txtStrCatAt(char16_t *s, int32_t cap, int32_t len, TextIn add, int32_t *end) {
+    *end = len;
     if (!s || cap < 1) return 0;
-    int32_t len = txtLen(s, cap);
     int32_t room = cap - (len + 1);
     if (room < 1) return 0;
     int32_t n = txtLen(add);  // taken before s grows: add may be s itself
     if (n > room) n = room;
     txtMove(s + len, add.s, n);
     s[len + n] = 0;
+    *end = len + n;
     return 1;
 }
 

@@ -11,6 +11,10 @@ namespace mx {
 // when room was at least 1 (also when add was cut), else 0 and s unchanged.
 int32_t txtStrCat(char16_t *s, int32_t cap, TextIn add);
 
+// txtStrCat for a text whose length len (txtLen(s, cap)) is known; *end
+// receives its length afterwards.
+int32_t txtStrCatAt(char16_t *s, int32_t cap, int32_t len, TextIn add, int32_t *end);
+
 // Bounded copy of src into dst, characters unchanged (AsciiToAnsi and
 // AnsiNachAscii). Result 1.
 int32_t txtCopyText(TextIn src, char16_t *dst, int32_t cap);

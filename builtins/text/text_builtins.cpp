@@ -2,6 +2,7 @@
 // arguments as its signature hands them over and calls the implementation.
 #include "engine/args.h"
 #include "engine/function_numbers.h"
+#include "engine/text_end.h"
 #include "builtins/families.h"
 #include "builtins/text/case.h"
 #include "builtins/text/cutting.h"
@@ -37,7 +38,15 @@ int32_t biFillStringRight(RunContext &, Value **a, int32_t) {
     return txtFillStringRight(argText(a[0]), argCapacity(a[0]), argLong(a[1]), argChar(a[2]));
 }
 // *C[]C[] and C[]C[]
-int32_t biStrCat(RunContext &, Value **a, int32_t) { return txtStrCat(argText(a[0]), argCapacity(a[0]), in(a[1])); }
+// Appending again to the text it appended to last needs no search for its end.
+int32_t biStrCat(RunContext &, Value **a, int32_t) {
+    char16_t *s = argText(a[0]);
+    int32_t cap = argCapacity(a[0]), len, end;
+    if (!textEndKnown(s, cap, &len)) len = txtLen(s, cap);
+    int32_t result = txtStrCatAt(s, cap, len, in(a[1]), &end);
+    textEndRemember(s, cap, end);
+    return result;
+}
 int32_t biStrCmp(RunContext &, Value **a, int32_t) { return txtStrCmp(in(a[0]), in(a[1])); }
 int32_t biStrStr(RunContext &, Value **a, int32_t) { return txtStrStr(in(a[0]), in(a[1])); }
 // *C[]

@@ -54,11 +54,9 @@ bool parseValue(const std::string &line, RegValue *v) {
     return true;
 }
 
-bool below(const std::u16string &child, const std::u16string &parent) {
-    if (parent.empty()) return !child.empty();
-    return child.size() > parent.size() && child[parent.size()] == u'\\' &&
-           caseEqualNames(child.substr(0, parent.size()), parent);
-}
+// The folded path with the separator after it: the start of every subkey's
+// folded path (the root's subkeys are all other keys).
+std::u16string subkeyPrefix(const std::u16string &folded) { return folded.empty() ? folded : folded + u'\\'; }
 
 }  // namespace
 
@@ -95,7 +93,7 @@ RegistryStore RegistryStore::parse(const std::string &utf8) {
         start = lf == std::string::npos ? utf8.size() : lf + 1;
         RegValue v;
         if (line.size() >= 2 && line[0] == '[' && line.back() == ']') {
-            store.keys.push_back({canonical(unescape(line.substr(1, line.size() - 2))), {}});
+            store.list({canonical(unescape(line.substr(1, line.size() - 2))), {}});
             current = &store.keys.back();
         } else if (current && parseValue(line, &v)) {
             current->values.push_back(v);
@@ -107,27 +105,34 @@ RegistryStore RegistryStore::parse(const std::string &utf8) {
 std::string RegistryStore::serialize() const {
     std::string out = std::string(kHeader) + "\n";
     for (const RegKey &k : keys) {
-        out += "[" + escape(k.path) + "]\n";
-        for (const RegValue &v : k.values)
-            out += v.isDword ? "d " + escape(v.name) + "=" + std::to_string(v.dword) + "\n"
-                             : "s " + escape(v.name) + "=" + escape(v.text) + "\n";
+        out.append("[").append(escape(k.path)).append("]\n");
+        for (const RegValue &v : k.values) {
+            out.append(v.isDword ? "d " : "s ").append(escape(v.name)).append("=");
+            out.append(v.isDword ? std::to_string(v.dword) : escape(v.text)).append("\n");
+        }
     }
     return out;
 }
 
+void RegistryStore::list(RegKey key) {
+    byPath_.emplace(caseFoldName(key.path), keys.size());
+    keys.push_back(std::move(key));
+}
+
+void RegistryStore::reindex() {
+    byPath_.clear();
+    for (size_t i = 0; i < keys.size(); ++i) byPath_.emplace(caseFoldName(keys[i].path), i);
+}
+
 RegKey *RegistryStore::find(const std::u16string &path) {
-    std::u16string c = canonical(path);
-    for (RegKey &k : keys)
-        if (caseEqualNames(k.path, c)) return &k;
-    return nullptr;
+    auto it = byPath_.find(caseFoldName(canonical(path)));
+    return it == byPath_.end() ? nullptr : &keys[it->second];
 }
 
 RegKey &RegistryStore::create(const std::u16string &path) {
     std::u16string c = canonical(path);
     if (RegKey *k = find(c)) return *k;
-    size_t cut = c.rfind(u'\\');
-    if (!c.empty()) create(cut == std::u16string::npos ? u"" : c.substr(0, cut));
-    keys.push_back({c, {}});
+    list({c, {}});
     return keys.back();
 }
 
@@ -138,21 +143,24 @@ RegValue *RegistryStore::findValue(RegKey &key, const std::u16string &name) {
 }
 
 bool RegistryStore::hasSubkeys(const std::u16string &path) const {
-    std::u16string c = canonical(path);
-    for (const RegKey &k : keys)
-        if (below(k.path, c)) return true;
-    return false;
+    std::u16string prefix = subkeyPrefix(caseFoldName(canonical(path)));
+    auto it = byPath_.upper_bound(prefix);
+    if (prefix.empty()) return it != byPath_.end();
+    return it != byPath_.end() && it->first.compare(0, prefix.size(), prefix) == 0;
 }
 
 bool RegistryStore::removeKey(const std::u16string &path) {
     std::u16string c = canonical(path);
-    if (c.empty() || hasSubkeys(c)) return false;
-    for (size_t i = 0; i < keys.size(); ++i)
-        if (caseEqualNames(keys[i].path, c)) {
-            keys.erase(keys.begin() + std::ptrdiff_t(i));
-            return true;
-        }
-    return false;
+    RegKey *k = c.empty() || hasSubkeys(c) ? nullptr : find(c);
+    if (!k) return false;
+    std::u16string folded = caseFoldName(c);
+    // Equal paths listed twice (a file written by hand) go together.
+    std::erase_if(keys, [&](const RegKey &key) { return caseFoldName(key.path) == folded; });
+    reindex();
+    size_t cut = c.rfind(u'\\');
+    std::u16string parent = cut == std::u16string::npos ? u"" : c.substr(0, cut);
+    if (!parent.empty() && !find(parent) && !hasSubkeys(parent)) list({parent, {}});
+    return true;
 }
 
 }  // namespace mx

@@ -9,6 +9,7 @@
 #include <share.h>
 #include <sys/stat.h>
 
+#include "base/path_surgery.h"
 #include "platform/file_mode.h"
 #include "platform/files.h"
 #include "platform/win32/wide.h"
@@ -45,6 +46,12 @@ MxpFile *mxp_FileOpen(const char16_t *path, const char16_t *mode, Share share, O
     // One reading of mode texts for both builds: a mode the Linux streams
     // refuse never reaches the runtime here either.
     FileMode m = fileModeParse(mode);
+    // A device name never reaches the runtime: opening a port or the
+    // console may wait, and only files on a disk are wanted anyway.
+    if (psNamesDevice(path)) {
+        if (why) *why = OpenError::kAccessDenied;
+        return nullptr;
+    }
     errno = 0;
     FILE *fp = path && m.valid ? _wfsopen(wide(path), wide(mode), shareFlag(share)) : nullptr;
     if (!fp) {

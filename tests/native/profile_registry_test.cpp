@@ -264,16 +264,35 @@ TEST(RegistryStore, TextFormRoundTripsAwkwardNames) {
     k.values.push_back({u"", true, u"", 4000000000u});
     std::string text = s.serialize();
     RegistryStore back = RegistryStore::parse(text + "garbage line\n");
-    ASSERT_EQ(back.keys.size(), 3u);
-    EXPECT_EQ(back.keys[0].path, u"");
-    EXPECT_EQ(back.keys[1].path, u"a=b");
-    EXPECT_EQ(back.keys[2].path, u"a=b\\c]d");
-    ASSERT_EQ(back.keys[2].values.size(), 2u);
-    EXPECT_EQ(back.keys[2].values[0].name, u"n=1%");
-    EXPECT_EQ(back.keys[2].values[0].text, u"line1\r\nline2 = x ]");
-    EXPECT_TRUE(back.keys[2].values[1].isDword);
-    EXPECT_EQ(back.keys[2].values[1].dword, 4000000000u);
+    ASSERT_EQ(back.keys.size(), 1u);
+    EXPECT_EQ(back.keys[0].path, u"a=b\\c]d");
+    ASSERT_EQ(back.keys[0].values.size(), 2u);
+    EXPECT_EQ(back.keys[0].values[0].name, u"n=1%");
+    EXPECT_EQ(back.keys[0].values[0].text, u"line1\r\nline2 = x ]");
+    EXPECT_TRUE(back.keys[0].values[1].isDword);
+    EXPECT_EQ(back.keys[0].values[1].dword, 4000000000u);
     EXPECT_EQ(back.serialize(), text);
+}
+
+// Parents are implied by their subkeys: a deep path is one line of its own
+// length, and deleting the last subkey leaves its parent in place.
+TEST(RegistryStore, ParentsAreImpliedAndOutliveTheirLastSubkey) {
+    RegistryStore s;
+    std::u16string deep = u"top";
+    for (int i = 0; i < 4000; ++i) deep += u"\\k";
+    s.create(deep).values.push_back({u"v", false, u"x", 0});
+    EXPECT_LT(s.serialize().size(), deep.size() + 64);
+    EXPECT_TRUE(s.hasSubkeys(u"TOP\\K"));
+    EXPECT_FALSE(s.hasSubkeys(deep));
+    EXPECT_FALSE(s.removeKey(u"top"));
+    s.create(u"top\\other");
+    ASSERT_TRUE(s.removeKey(u"top\\OTHER"));
+    ASSERT_TRUE(s.removeKey(deep));
+    RegistryStore back = RegistryStore::parse(s.serialize());
+    EXPECT_NE(back.find(deep.substr(0, deep.size() - 2)), nullptr);
+    EXPECT_EQ(back.find(deep), nullptr);
+    EXPECT_TRUE(back.hasSubkeys(u"top"));
+    EXPECT_FALSE(back.removeKey(u"top\\other"));
 }
 
 TEST_F(Registry, ConcurrentWritersLoseNothing) {

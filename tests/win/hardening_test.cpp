@@ -1,6 +1,7 @@
 // Hardening through the DLL as a host uses it: macros that recurse through
 // CallWithParams end with the nesting error before a 1 MB host stack runs
-// out, and the stack one level of such recursion costs is measured.
+// out, and the stack one level of such recursion costs is measured; device
+// names are refused wherever a file is expected.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -13,6 +14,7 @@
 namespace {
 
 std::u16string u(const std::wstring &s) { return std::u16string(s.begin(), s.end()); }
+std::u16string u16(const std::string &s) { return std::u16string(s.begin(), s.end()); }
 std::string inMacro(const std::wstring &s) {
     std::string out;
     for (wchar_t c : s) out += c == L'\\' ? std::string("\\\\") : std::string(1, char(c));
@@ -65,4 +67,37 @@ TEST(WinHardening, CallWithParamsRecursionEndsWithTheNestingErrorOnAOneMegabyteS
                 size_t(perLevel));
     // The deepest legal recursion leaves the host at least 400 KB of its stack.
     EXPECT_LT(perLevel * gMarks.size(), uintptr_t(600) << 10);
+}
+
+// Device names where a file is expected: every function refuses them at once
+// with its answer for a file it may not use (a console, a port or a printer
+// never ends or answers like a file), and nothing is created beside them.
+// Names that only resemble a device are files.
+TEST(WinHardening, DeviceNamesAreRefusedWhereAFileIsExpected) {
+    std::wstring dir = winScratchDir();
+    winWriteFile(dir + L"\\src.txt", "data");
+    std::string d = inMacro(dir), shown(dir.begin(), dir.end());
+    auto run = [&](const std::string &name) {
+        std::string at = d + "\\\\" + name;
+        return winRunMemory(std::u16string(
+            u"char b[20]; int x;") + u16(" Print(OpenFile(\"" + at + "\", \"r\")); Print(OpenFile(\"" + at +
+            "\", \"w\")); Print(CopyFile(\"" + d + "\\\\src.txt\", \"" + at + "\")); Print(CopyFile(\"" + at +
+            "\", \"" + d + "\\\\dst.txt\")); WriteProfile(\"" + at + "\", \"s\", \"k\", \"v\"); ReadProfile(\"" + at +
+            "\", \"s\", \"k\", b); Print(b); x = XMLCreate(\"r\", \"UTF-8\"); Print(XMLWriteFile(x, \"" + at +
+            "\", 0));"));
+    };
+    for (const char *device : {"CON", "NUL", "aux", "COM1", "LPT1", "con.txt", "NUL.", "nul ", "Com1 .log"}) {
+        std::string f = shown + "\\" + device;
+        std::string denied = "Makrofehler: Fehler in Zeile 1 des Makros \n\nDie Datei '" + f + "' ist bereits im Zugriff\n\n";
+        WinRun r = run(device);
+        EXPECT_EQ(r.result, 0) << device;
+        EXPECT_EQ(r.output, denied + "0\n" + denied + "0\n1\n1\n\nXML-Fehler: XML-Fehler -13: Kein Zugriff auf die Datei."
+                                                       "\n\n" + f + "\n2\n") << device;
+        EXPECT_EQ(GetFileAttributesW((dir + L"\\dst.txt").c_str()), INVALID_FILE_ATTRIBUTES) << device;
+    }
+    for (std::string file : {"CON1.txt", "com10", "nul_"}) {
+        WinRun r = winRunMemory(u16("Print(CopyFile(\"" + d + "\\\\src.txt\", \"" + d + "\\\\" + file + "\"));"));
+        EXPECT_EQ(r.output, "0\n") << file;
+        EXPECT_EQ(winReadFile(dir + L"\\" + std::wstring(file.begin(), file.end())), "data") << file;
+    }
 }
