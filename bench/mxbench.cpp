@@ -6,12 +6,17 @@
 //   call     a loop that calls a host function (through the callback) each turn
 //   builtin  a loop that adds StrLen of a text each turn
 // Usage: mxbench [N [WORKLOAD]]   (default 1 000 000 turns, every workload)
+//        mxbench curve            (the cost curve and the cache's memory:
+//   "loop-T ns" per turn of the int loop for T turns, "lines-L ns" per
+//   statement of a loop whose body is L lines, "cache-L bytes entries" for the
+//   statement cache of that L-line macro)
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
+#include "engine/statement_cache.h"
 #include "morvix.h"
 
 namespace {
@@ -36,20 +41,50 @@ const Workload kWorkloads[] = {
     {"builtin", "int i; int s; char t[16]; t = \"hello world\";", "s = s + StrLen(t);"},
 };
 
-double nsPerTurn(const Workload &w, long n) {
-    std::string body = std::string(w.declarations) + " while (i < " + std::to_string(n) + ") begin " + w.body +
-                       (std::strcmp(w.name, "float") == 0 ? " i = i + 1.0; end" : " i = i + 1; end");
-    std::u16string text(body.begin(), body.end());
+// Runs the macro text; returns the wall time in nanoseconds.
+double runNs(const std::string &macro) {
+    std::u16string text(macro.begin(), macro.end());
     auto start = std::chrono::steady_clock::now();
     LONG r = Run_MemMacro(nullptr, nullptr, text.c_str(), kHost, nop, nullptr, 0, 1, 0);
     auto end = std::chrono::steady_clock::now();
-    if (r != 0) std::fprintf(stderr, "mxbench: the %s macro failed\n", w.name);
-    return std::chrono::duration<double, std::nano>(end - start).count() / double(n);
+    if (r != 0) std::fprintf(stderr, "mxbench: a macro failed\n");
+    return std::chrono::duration<double, std::nano>(end - start).count();
+}
+
+// A loop of turns turns whose body is lines statements, one per line.
+std::string linesMacro(long lines, long turns) {
+    std::string m = "int i; int s; while (i < " + std::to_string(turns) + ") begin\n";
+    for (long k = 0; k < lines; ++k) m += "s = s + i;\n";
+    return m + "i = i + 1; end\n";
+}
+
+void curve() {
+    for (long t : {1000L, 100000L, 10000000L})
+        std::printf("loop-%ld %.1f\n", t,
+                    runNs("int i; int s; while (i < " + std::to_string(t) + ") begin s = s + i; i = i + 1; end") /
+                        double(t));
+    // The same number of statements run for both lengths.
+    for (long lines : {1000L, 100000L}) {
+        long turns = 1000000 / lines;
+        std::printf("lines-%ld %.1f\n", lines, runNs(linesMacro(lines, turns)) / double(turns * (lines + 1)));
+        mx::CacheSize size = mx::scLastDestroyed();
+        std::printf("cache-%ld %zu %zu\n", lines, size.bytes, size.entries);
+    }
+}
+
+double nsPerTurn(const Workload &w, long n) {
+    std::string body = std::string(w.declarations) + " while (i < " + std::to_string(n) + ") begin " + w.body +
+                       (std::strcmp(w.name, "float") == 0 ? " i = i + 1.0; end" : " i = i + 1; end");
+    return runNs(body) / double(n);
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
+    if (argc > 1 && std::strcmp(argv[1], "curve") == 0) {
+        curve();
+        return 0;
+    }
     long n = argc > 1 ? std::atol(argv[1]) : 1000000;
     const char *only = argc > 2 ? argv[2] : nullptr;
     for (const Workload &w : kWorkloads)

@@ -81,3 +81,16 @@ fi
             printf "| XML %s %s (ns per element, growth 2x: %s) | %s | | | | | | |\n", s, p, g[s, p], t[s, p]
         }
     }'
+
+# The cost curve: ns per turn of the int loop for 10^3, 10^5 and 10^7 turns,
+# and ns per statement for a loop body of 1 000 and of 100 000 lines (the
+# same million statements each); flat means the statement cache adds no
+# growth. Then the cache's memory for those macros.
+echo
+echo '| Cost curve | ns per turn or statement |'
+echo '|---|---|'
+"$mxbench" curve | awk '
+    $1 ~ /^loop-/ { sub("loop-", "", $1); printf "| int loop, %s turns | %s |\n", $1, $2 }
+    $1 ~ /^lines-/ { sub("lines-", "", $1); printf "| loop body of %s lines | %s |\n", $1, $2 }
+    $1 ~ /^cache-/ { sub("cache-", "", $1); c[$1] = sprintf("%.1f MB for %s entries (%.0f bytes each)", $2 / 1048576, $3, $2 / $3) }
+    END { for (k in c) printf "| statement cache, %s-line macro | %s |\n", k, c[k] }'

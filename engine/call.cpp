@@ -3,6 +3,7 @@
 #include "engine/dispatcher.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
+#include "engine/formula_program.h"
 #include "engine/text_end.h"
 #include "engine/trace.h"
 #include "base/u16.h"
@@ -69,16 +70,17 @@ bool bindOne(RunContext &ctx, const Descriptor &d, Value **slot) {
 
 // Reads the arguments between the brackets into args. Returns their count,
 // or -1 with the error set (the arguments read so far are released).
-int32_t readArguments(RunContext &ctx, const FunctionRow *row, char16_t *&p, Value **args) {
+int32_t readArguments(RunContext &ctx, const FunctionRow *row, const char16_t *&p, const char16_t *formulaEnd,
+                      Value **args) {
     int32_t count = 0;
     ++p;  // '('
-    while (*p != u')') {
+    while (p == formulaEnd || *p != u')') {
         if (count == kMaxArguments) {
             errSet(ctx, kErrTooManyParams, row->name);
             valReleaseArray(args, count);
             return -1;
         }
-        char16_t *end = evScanArgument(p);
+        const char16_t *end = evScanArgument(p, formulaEnd);
         Value *v = evEvaluateRange(ctx, p, end);
         if (!v) {
             valReleaseArray(args, count);
@@ -86,7 +88,7 @@ int32_t readArguments(RunContext &ctx, const FunctionRow *row, char16_t *&p, Val
         }
         args[count++] = v;
         p = end;
-        if (*p == u',') ++p;
+        if (p < formulaEnd && *p == u',') ++p;
     }
     ++p;  // ')'
     return count;
@@ -190,30 +192,37 @@ int32_t fnBind(RunContext &ctx, const FunctionRow *row, Value **args, int32_t co
     }
 }
 
-Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p) {
-    if (*p != u'(') {
+bool fnInvoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args, int32_t count, int32_t *result) {
+    if (fnBind(ctx, row, args, count) < 0) {
+        valReleaseArray(args, count);
+        return false;
+    }
+    *result = invoke(ctx, row, host, args, count);
+    if (ctx.errorCode == kErrNoMemory) {
+        valReleaseArray(args, count);
+        return false;
+    }
+    trFunctionCall(ctx, row->name, args, count, *result);
+    valReleaseArray(args, count);
+    if (ctx.abortCallback && ctx.abortCallback() != 0) {
+        errSet(ctx, kErrAborted);
+        return false;
+    }
+    return true;
+}
+
+Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, const char16_t *&p, const char16_t *end) {
+    if (p == end || *p != u'(') {
         errSet(ctx, kErrCharExpected, u"(");
         return nullptr;
     }
     Value *args[kMaxArguments] = {};
-    int32_t count = readArguments(ctx, row, p, args);
-    if (count < 0) return nullptr;
-    if (fnBind(ctx, row, args, count) < 0) {
-        valReleaseArray(args, count);
-        return nullptr;
-    }
-    int32_t result = invoke(ctx, row, host, args, count);
-    if (ctx.errorCode == kErrNoMemory) {
-        valReleaseArray(args, count);
-        return nullptr;
-    }
-    trFunctionCall(ctx, row->name, args, count, result);
-    valReleaseArray(args, count);
-    if (ctx.abortCallback && ctx.abortCallback() != 0) {
-        errSet(ctx, kErrAborted);
-        return nullptr;
-    }
-    return valNewLong(ctx, result);
+    int32_t count = readArguments(ctx, row, p, end, args);
+    int32_t result = 0;
+    if (count < 0 || !fnInvoke(ctx, row, host, args, count, &result)) return nullptr;
+    Value *v = valNewLong(ctx, result);
+    if (v) fpRecordCall(ctx, row, host, count);
+    return v;
 }
 
 int32_t fnCheckHostTable(RunContext &ctx) {

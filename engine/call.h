@@ -18,10 +18,17 @@ const FunctionRow *fnSearch(const FunctionRow *rows, int32_t count, const char16
 // which table the row came from.
 const FunctionRow *fnLookup(RunContext &ctx, const char16_t *name, bool *host);
 
-// Reads "(arguments)" at p, binds them, calls the function and asks the abort
-// callback. Returns a new owning long Value with the result, or absent with
-// the error set. p moves past the closing bracket.
-Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, char16_t *&p);
+// Reads "(arguments)" at p (before end, the end of the formula or argument),
+// binds them, calls the function and asks the abort callback. Returns a new
+// owning long Value with the result, or absent with the error set. p moves
+// past the closing bracket.
+Value *fnCall(RunContext &ctx, const FunctionRow *row, bool host, const char16_t *&p, const char16_t *end);
+
+// Binds args (count of them, read already) against row's signature, calls the
+// function, writes the trace line and asks the abort callback. The arguments
+// are released in every case. Returns true with the function's result in
+// *result, or false with the error set.
+bool fnInvoke(RunContext &ctx, const FunctionRow *row, bool host, Value **args, int32_t count, int32_t *result);
 
 // Checks args against signature; converts scalar by-value arguments in place
 // (the replaced Values are released). Returns 0, or -1 with the error set.

@@ -74,40 +74,36 @@ struct Checker {
 // condition := '(' formula ')'
 Outcome Checker::condition() {
     if (!expect(u'(', u"(")) return recover();
-    char16_t *text = fmCollect(ctx, nullptr);
-    if (!text) return recover();
-    Outcome out = kRead;
-    if (expect(u')', u")")) formula(text);
-    else out = recover();
-    std::free(text);
-    return out;
+    char16_t text[kFormulaCapacity];
+    if (fmCollect(ctx, nullptr, text) < 0) return recover();
+    if (!expect(u')', u")")) return recover();
+    formula(text);
+    return kRead;
 }
 
 // A declaration read as the run reads it in skip mode; its name is then
 // known to the formulas after it.
 Outcome Checker::declaration(bool isStatic) {
-    int32_t pos = ctx.pos, line = ctx.line;
+    TextPlace start = rdPlace(ctx);
     int32_t r = isStatic ? dcDeclareStatic(ctx, Mode::kSkip) : dcDeclare(ctx, false, kKwChar, Mode::kSkip);
     if (r < 0) return recover();
-    int32_t endPos = ctx.pos, endLine = ctx.line;
-    ctx.pos = pos, ctx.line = line;
+    TextPlace end = rdPlace(ctx);
+    rdSeek(ctx, start);
     char16_t name[kWordCapacity];
     if (isStatic) rdWord(ctx, name, kWordCapacity);  // the type keyword
     rdWord(ctx, name, kWordCapacity);
     names.insert(name);
-    ctx.pos = endPos, ctx.line = endLine;
+    rdSeek(ctx, end);
     return kRead;
 }
 
 // formula-statement := formula ';'
 Outcome Checker::formulaStatement(const char16_t *word) {
-    char16_t *text = fmCollect(ctx, word);
-    if (!text) return recover();
-    Outcome out = kRead;
-    if (expect(u';', u";")) formula(text);
-    else out = recover();
-    std::free(text);
-    return out;
+    char16_t text[kFormulaCapacity];
+    if (fmCollect(ctx, word, text) < 0) return recover();
+    if (!expect(u';', u";")) return recover();
+    formula(text);
+    return kRead;
 }
 
 Outcome Checker::statement() {

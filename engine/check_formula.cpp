@@ -6,6 +6,7 @@
 #include "engine/function_numbers.h"
 #include "engine/operand.h"
 #include "engine/operators.h"
+#include "base/u16.h"
 #include "platform/platform.h"
 
 namespace mx {
@@ -41,11 +42,13 @@ struct Shape {
     }
 };
 
-bool checkRange(RunContext &ctx, const CheckNames &names, char16_t *begin, char16_t *end) {
-    char16_t saved = *end;
-    *end = 0;
-    bool ok = ckFormula(ctx, names, begin);
-    *end = saved;
+bool check(RunContext &ctx, const CheckNames &names, const char16_t *formula, const char16_t *end);
+
+// An argument or index, one nesting level deeper.
+bool checkRange(RunContext &ctx, const CheckNames &names, const char16_t *begin, const char16_t *end) {
+    if (!evEnter(ctx)) return false;
+    bool ok = check(ctx, names, begin, end);
+    evLeave(ctx);
     return ok;
 }
 
@@ -87,18 +90,19 @@ int32_t constantArgument(const char16_t *begin, const char16_t *end) {
 // name(arguments): as the call reads them, each argument checked as a formula.
 // A new escape character set with a constant takes effect for the text read
 // after it, as it does when the macro runs straight through.
-bool checkCall(RunContext &ctx, const CheckNames &names, const FunctionRow *row, char16_t *&p) {
-    if (*p != u'(') return errSet(ctx, kErrCharExpected, u"("), false;
+bool checkCall(RunContext &ctx, const CheckNames &names, const FunctionRow *row, const char16_t *&p,
+               const char16_t *formulaEnd) {
+    if (p == formulaEnd || *p != u'(') return errSet(ctx, kErrCharExpected, u"("), false;
     int32_t count = 0;
-    char16_t *first = p + 1, *firstEnd = p + 1;
+    const char16_t *first = p + 1, *firstEnd = p + 1;
     ++p;
-    while (*p != u')') {
+    while (p == formulaEnd || *p != u')') {
         if (count == kMaxArguments) return errSet(ctx, kErrTooManyParams, row->name), false;
-        char16_t *end = evScanArgument(p);
+        const char16_t *end = evScanArgument(p, formulaEnd);
         if (!checkRange(ctx, names, p, end)) return false;
         if (count++ == 0) firstEnd = end;
         p = end;
-        if (*p == u',') ++p;
+        if (p < formulaEnd && *p == u',') ++p;
     }
     ++p;
     if (checkArgumentCount(ctx, row, count) < 0) return false;
@@ -109,10 +113,10 @@ bool checkCall(RunContext &ctx, const CheckNames &names, const FunctionRow *row,
 }
 
 // [index] after a variable.
-bool checkIndex(RunContext &ctx, const CheckNames &names, char16_t *&p) {
-    char16_t *end = evScanArgument(p + 1);
+bool checkIndex(RunContext &ctx, const CheckNames &names, const char16_t *&p, const char16_t *formulaEnd) {
+    const char16_t *end = evScanArgument(p + 1, formulaEnd);
     if (!checkRange(ctx, names, p + 1, end)) return false;
-    if (*end != u']') return errSet(ctx, kErrCharExpected, u"]"), false;
+    if (end == formulaEnd || *end != u']') return errSet(ctx, kErrCharExpected, u"]"), false;
     p = end + 1;
     return true;
 }
@@ -129,45 +133,47 @@ bool isNumber(const char16_t *token, int32_t len) {
     return len >= 1 && len <= 16 && dots <= 1;
 }
 
-bool checkOperand(RunContext &ctx, const CheckNames &names, char16_t *&p) {
+bool checkOperand(RunContext &ctx, const CheckNames &names, const char16_t *&p, const char16_t *end) {
+    int32_t rest = int32_t(end - p);
     if (*p == u'"') {
-        char16_t *close = p + 1;
-        while (*close && *close != u'"') ++close;
-        if (!*close) return errSet(ctx, kErrStringEnd, p), false;
+        const char16_t *close = p + 1;
+        while (close < end && *close != u'"') ++close;
+        if (close == end) return errSetN(ctx, kErrStringEnd, p, rest), false;
         p = close + 1;
         return true;
     }
     if (*p == u'\'') {
-        if (!p[1] || p[2] != u'\'') return errSet(ctx, kErrBadCharConstant, p), false;
+        if (rest < 3 || p[2] != u'\'') return errSetN(ctx, kErrBadCharConstant, p, rest), false;
         p += 3;
         return true;
     }
     char16_t token[kNameCapacity];
     int32_t len = 0;
-    for (; *p && isTokenChar(*p); ++p)
+    for (; p < end && isTokenChar(*p); ++p)
         if (len < kNameCapacity - 1) token[len++] = *p;
     token[len] = 0;
     if (isNumber(token, len)) return true;
     if (len == 0 || (token[0] != u'_' && !mxp_IsAlpha(token[0])))
-        return errSet(ctx, kErrBadOperand, p), false;
+        return errSetN(ctx, kErrBadOperand, p, int32_t(end - p)), false;
     bool host = false;
     if (const FunctionRow *row = fnLookup(ctx, token, &host))
-        return !row->signature || checkCall(ctx, names, row, p);
+        return !row->signature || checkCall(ctx, names, row, p, end);
     if (!names.count(token)) return errSet(ctx, kErrVarUndeclared, token), false;
-    return *p != u'[' || checkIndex(ctx, names, p);
+    return p == end || *p != u'[' || checkIndex(ctx, names, p, end);
 }
 
-bool check(RunContext &ctx, const CheckNames &names, char16_t *formula) {
+bool check(RunContext &ctx, const CheckNames &names, const char16_t *formula, const char16_t *end) {
     Shape st;
     bool expectOperand = true;
     int32_t depth = 0;
-    char16_t *p = formula;
+    const char16_t *p = formula;
+    int32_t n = int32_t(end - formula);
     for (;;) {
-        if (*p == 0) {
+        if (p == end) {
             if (!st.reduce(ctx, 0)) return false;
-            if (st.nOps) return errSet(ctx, kErrBadOperand, formula), false;
-            if (st.nOperands != 1) return errSet(ctx, kErrOperatorMissing, formula), false;
-            if (depth != 0) return errSet(ctx, kErrBrackets, formula), false;
+            if (st.nOps) return errSetN(ctx, kErrBadOperand, formula, n), false;
+            if (st.nOperands != 1) return errSetN(ctx, kErrOperatorMissing, formula, n), false;
+            if (depth != 0) return errSetN(ctx, kErrBrackets, formula, n), false;
             return true;
         }
         if (*p == u'(') {
@@ -179,19 +185,19 @@ bool check(RunContext &ctx, const CheckNames &names, char16_t *formula) {
             expectOperand = false;
             --depth, ++p;
         } else if (!expectOperand) {
-            const OperatorRow *row = oprMatch(p, 2);
-            if (!row) return errSet(ctx, kErrBadOperator, p), false;
+            const OperatorRow *row = oprMatch(p, end, 2);
+            if (!row) return errSetN(ctx, kErrBadOperator, p, int32_t(end - p)), false;
             if (st.nOps && row->precedence <= st.ops[st.nOps - 1]->precedence &&
                 !st.reduce(ctx, row->precedence))
                 return false;
             if (!st.pushOp(ctx, row)) return false;
             p += row->length;
             expectOperand = true;
-        } else if (const OperatorRow *unary = oprMatch(p, 1)) {
+        } else if (const OperatorRow *unary = oprMatch(p, end, 1)) {
             if (!st.pushOp(ctx, unary)) return false;
             p += unary->length;
         } else {
-            if (!checkOperand(ctx, names, p) || !st.pushOperand(ctx)) return false;
+            if (!checkOperand(ctx, names, p, end) || !st.pushOperand(ctx)) return false;
             expectOperand = false;
         }
     }
@@ -199,11 +205,8 @@ bool check(RunContext &ctx, const CheckNames &names, char16_t *formula) {
 
 }  // namespace
 
-bool ckFormula(RunContext &ctx, const CheckNames &names, char16_t *formula) {
-    if (!evEnter(ctx)) return false;
-    bool ok = check(ctx, names, formula);
-    evLeave(ctx);
-    return ok;
+bool ckFormula(RunContext &ctx, const CheckNames &names, const char16_t *formula) {
+    return checkRange(ctx, names, formula, formula + u16Len(formula));
 }
 
 }  // namespace mx

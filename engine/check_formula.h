@@ -17,7 +17,7 @@ using CheckNames = std::set<std::u16string>;
 // constants, numbers, named constants, function calls with their argument
 // count, variables declared in names and their indexes), operators and
 // brackets. Returns true, or false with the error the run would report set
-// in ctx. The text is unchanged afterwards.
-bool ckFormula(RunContext &ctx, const CheckNames &names, char16_t *formula);
+// in ctx.
+bool ckFormula(RunContext &ctx, const CheckNames &names, const char16_t *formula);
 
 }  // namespace mx

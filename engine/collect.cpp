@@ -1,12 +1,8 @@
 #include "engine/collect.h"
 
-#include <cstdlib>
-#include <cstring>
-
 #include "engine/errors.h"
 #include "engine/reader.h"
 #include "base/u16.h"
-#include "base/heap.h"
 
 namespace mx {
 
@@ -69,48 +65,6 @@ int32_t collectInto(RunContext &ctx, const char16_t *start, char16_t *buf) {
 
 }  // namespace
 
-char16_t *fmCollect(RunContext &ctx, const char16_t *start) {
-    char16_t buf[kFormulaCapacity];
-    int32_t n = collectInto(ctx, start, buf);
-    if (n < 0) return nullptr;
-    auto *copy = static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * size_t(n + 1)));
-    if (!copy) {
-        errSet(ctx, kErrNoMemory);
-        return nullptr;
-    }
-    std::memcpy(copy, buf, sizeof(char16_t) * size_t(n + 1));
-    return copy;
-}
-
-namespace {
-// Formula buffers kept for reuse. A statement holds one while its formula is
-// evaluated, and a nested run's statements take further ones, so the list is
-// as deep as the nesting has been (at most kSpareBuffers are kept).
-constexpr int32_t kSpareBuffers = 16;
-char16_t *gSpareBuffers[kSpareBuffers];
-int32_t gSpareBufferCount = 0;
-}  // namespace
-
-char16_t *fmCollectInBuffer(RunContext &ctx, const char16_t *start) {
-    char16_t *buf = gSpareBufferCount ? gSpareBuffers[--gSpareBufferCount]
-                                      : static_cast<char16_t *>(heapMalloc(sizeof(char16_t) * kFormulaCapacity));
-    if (!buf) {
-        errSet(ctx, kErrNoMemory);
-        return nullptr;
-    }
-    if (collectInto(ctx, start, buf) >= 0) return buf;
-    fmReleaseBuffer(buf);
-    return nullptr;
-}
-
-void fmReleaseBuffer(char16_t *formula) {
-    if (!formula) return;
-    if (gSpareBufferCount < kSpareBuffers) gSpareBuffers[gSpareBufferCount++] = formula;
-    else std::free(formula);
-}
-
-void fmReleaseSpareBuffers() {
-    while (gSpareBufferCount) std::free(gSpareBuffers[--gSpareBufferCount]);
-}
+int32_t fmCollect(RunContext &ctx, const char16_t *start, char16_t *buf) { return collectInto(ctx, start, buf); }
 
 }  // namespace mx

@@ -15,21 +15,9 @@ constexpr int32_t kFormulaCapacity = 1024;  // at most 1023 characters
 constexpr char16_t kEscapedQuote = 1;
 
 // Collects the formula at the reader's position, starting with start (the
-// word already read, or absent). Returns a newly allocated, terminated text
-// the caller frees with std::free, or absent with the error set (118, 126, 130,
-// 116). The character that ended the formula is left unread.
-char16_t *fmCollect(RunContext &ctx, const char16_t *start);
-
-// Collects as fmCollect does, into a formula buffer of kFormulaCapacity
-// units that is reused from one statement to the next instead of a new copy
-// of each formula. Returns the buffer, which the caller hands back with
-// fmReleaseBuffer, or absent with the error set.
-char16_t *fmCollectInBuffer(RunContext &ctx, const char16_t *start);
-
-// Takes a buffer of fmCollectInBuffer back for reuse. Absent is harmless.
-void fmReleaseBuffer(char16_t *formula);
-
-// Frees the buffers kept for reuse; called when the library is detached.
-void fmReleaseSpareBuffers();
+// word already read, or absent), into buf of kFormulaCapacity units, where it
+// ends terminated. Returns its length, or -1 with the error set (118, 126,
+// 130). The character that ended the formula is left unread.
+int32_t fmCollect(RunContext &ctx, const char16_t *start, char16_t *buf);
 
 }  // namespace mx

@@ -36,7 +36,9 @@ int32_t dcDeclare(RunContext &ctx, bool isStatic, int32_t keyword, Mode mode) {
         errSet(ctx, kErrVarExists, name);
         return -1;
     }
-    return varAppend(ctx, list, name, typeOf(keyword), count) ? 0 : -1;
+    if (!varAppend(ctx, list, name, typeOf(keyword), count)) return -1;
+    if (!isStatic) ++ctx.localGeneration;
+    return 0;
 }
 
 int32_t dcDeclareStatic(RunContext &ctx, Mode mode) {

@@ -1,6 +1,7 @@
 #include "engine/eval.h"
 
 #include "engine/errors.h"
+#include "engine/formula_program.h"
 #include "engine/operand.h"
 #include "engine/operators.h"
 #include "engine/value.h"
@@ -51,26 +52,28 @@ bool reduce(RunContext &ctx, Stacks &st, int32_t minimum) {
         Value *left = st.popOperand();
         Value *result = oprApply(ctx, row, left, right);
         if (!result || !st.pushOperand(ctx, result)) return false;
+        fpRecordApply(ctx, row);
     }
     return true;
 }
 
-Value *finish(RunContext &ctx, Stacks &st, const char16_t *formula, int32_t depth) {
+Value *finish(RunContext &ctx, Stacks &st, const char16_t *formula, const char16_t *end, int32_t depth) {
     if (!reduce(ctx, st, 0)) return nullptr;
-    if (st.nOps) errSet(ctx, kErrBadOperand, formula);
-    else if (st.nOperands != 1) errSet(ctx, kErrOperatorMissing, formula);
-    else if (depth != 0) errSet(ctx, kErrBrackets, formula);
+    int32_t n = int32_t(end - formula);
+    if (st.nOps) errSetN(ctx, kErrBadOperand, formula, n);
+    else if (st.nOperands != 1) errSetN(ctx, kErrOperatorMissing, formula, n);
+    else if (depth != 0) errSetN(ctx, kErrBrackets, formula, n);
     else return st.popOperand();
     return nullptr;
 }
 
-Value *evaluate(RunContext &ctx, char16_t *formula) {
+Value *evaluate(RunContext &ctx, const char16_t *formula, const char16_t *end) {
     Stacks st;
     bool expectOperand = true;
     int32_t depth = 0;
-    char16_t *p = formula;
+    const char16_t *p = formula;
     for (;;) {
-        if (*p == 0) return finish(ctx, st, formula, depth);
+        if (p == end) return finish(ctx, st, formula, end, depth);
         if (*p == u'(') {
             if (!expectOperand) {
                 errSet(ctx, kErrUnexpectedChar, u"(");
@@ -83,9 +86,9 @@ Value *evaluate(RunContext &ctx, char16_t *formula) {
             expectOperand = false;
             --depth, ++p;
         } else if (!expectOperand) {
-            const OperatorRow *row = oprMatch(p, 2);
+            const OperatorRow *row = oprMatch(p, end, 2);
             if (!row) {
-                errSet(ctx, kErrBadOperator, p);
+                errSetN(ctx, kErrBadOperator, p, int32_t(end - p));
                 return nullptr;
             }
             if (st.nOps && row->precedence <= st.ops[st.nOps - 1]->precedence &&
@@ -94,11 +97,11 @@ Value *evaluate(RunContext &ctx, char16_t *formula) {
             if (!st.pushOp(ctx, row)) return nullptr;
             p += row->length;
             expectOperand = true;
-        } else if (const OperatorRow *unary = oprMatch(p, 1)) {
+        } else if (const OperatorRow *unary = oprMatch(p, end, 1)) {
             if (!st.pushOp(ctx, unary)) return nullptr;
             p += unary->length;
         } else {
-            Value *v = opReadOperand(ctx, p);
+            Value *v = opReadOperand(ctx, p, end);
             if (!v || !st.pushOperand(ctx, v)) return nullptr;
             expectOperand = false;
         }
@@ -107,34 +110,29 @@ Value *evaluate(RunContext &ctx, char16_t *formula) {
 
 }  // namespace
 
-bool evEnter(RunContext &ctx) {
-    if (ctx.depth >= kMaxDepth) {
-        errSet(ctx, kErrStackOverflow);
-        return false;
-    }
-    ++ctx.depth;
-    return true;
+bool evTooDeep(RunContext &ctx) {
+    errSet(ctx, kErrStackOverflow);
+    return false;
 }
 
-Value *evEvaluate(RunContext &ctx, char16_t *formula) {
+Value *evEvaluate(RunContext &ctx, const char16_t *begin, const char16_t *end) {
     if (!evEnter(ctx)) return nullptr;
-    Value *v = evaluate(ctx, formula);
+    Value *v = evaluate(ctx, begin, end);
     evLeave(ctx);
     return v;
 }
 
-Value *evEvaluateRange(RunContext &ctx, char16_t *begin, char16_t *end) {
-    char16_t saved = *end;
-    *end = 0;
-    Value *v = evEvaluate(ctx, begin);
-    *end = saved;
+Value *evEvaluateRange(RunContext &ctx, const char16_t *begin, const char16_t *end) {
+    fpRecordNesting(ctx, true);
+    Value *v = evEvaluate(ctx, begin, end);
+    if (v) fpRecordNesting(ctx, false);
     return v;
 }
 
-char16_t *evScanArgument(char16_t *p) {
+const char16_t *evScanArgument(const char16_t *p, const char16_t *end) {
     bool quoted = false;
     int32_t depth = 0;
-    for (; *p; ++p) {
+    for (; p < end; ++p) {
         if (*p == u'"') quoted = !quoted;
         if (quoted) continue;
         if (*p == u'(' || *p == u'[') {

@@ -7,6 +7,7 @@
 #include "engine/collect.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
+#include "engine/formula_program.h"
 #include "engine/reader.h"
 #include "base/u16.h"
 #include "engine/value.h"
@@ -18,11 +19,11 @@ namespace mx {
 namespace {
 
 // "..." : an owning character vector; escaped quotes become '"' again.
-Value *readText(RunContext &ctx, char16_t *&p) {
-    char16_t *close = p + 1;
-    while (*close && *close != u'"') ++close;
-    if (!*close) {
-        errSet(ctx, kErrStringEnd, p);
+Value *readText(RunContext &ctx, const char16_t *&p, const char16_t *end) {
+    const char16_t *close = p + 1;
+    while (close < end && *close != u'"') ++close;
+    if (close == end) {
+        errSetN(ctx, kErrStringEnd, p, int32_t(end - p));
         return nullptr;
     }
     int32_t n = int32_t(close - (p + 1));
@@ -31,17 +32,18 @@ Value *readText(RunContext &ctx, char16_t *&p) {
     auto *s = static_cast<char16_t *>(v->data);
     for (int32_t i = 0; i < n; ++i) s[i] = p[1 + i] == kEscapedQuote ? u'"' : p[1 + i];
     p = close + 1;
+    fpRecordText(ctx, s, n + 1);
     return v;
 }
 
 // 'x' : an owning character scalar.
-Value *readCharConstant(RunContext &ctx, char16_t *&p) {
-    if (!p[1] || p[2] != u'\'') {
-        errSet(ctx, kErrBadCharConstant, p);
+Value *readCharConstant(RunContext &ctx, const char16_t *&p, const char16_t *end) {
+    if (end - p < 3 || p[2] != u'\'') {
+        errSetN(ctx, kErrBadCharConstant, p, int32_t(end - p));
         return nullptr;
     }
     Value *v = valNewChar(ctx, p[1]);
-    if (v) p += 3;
+    if (v) p += 3, fpRecordChar(ctx, v->data ? *static_cast<char16_t *>(v->data) : 0);
     return v;
 }
 
@@ -60,22 +62,24 @@ Value *readNumber(RunContext &ctx, const char16_t *token, int32_t len, bool *isN
     if (dots == 0 && len <= 9) {
         int32_t n = 0;
         for (int32_t i = 0; i < len; ++i) n = n * 10 + (ascii[i] - '0');
+        fpRecordLong(ctx, n);
         return valNewLong(ctx, n);
     }
     double d = 0.0;
     if (len > 1) std::from_chars(ascii, ascii + len, d);
+    fpRecordDouble(ctx, d);
     return valNewDouble(ctx, d);
 }
 
 // Reads "[index]" at p for variable var. Returns the index, or -1 with the
 // error set.
-bool readIndex(RunContext &ctx, char16_t *&p, int32_t *index) {
-    char16_t *begin = p + 1;
-    char16_t *end = evScanArgument(begin);
+bool readIndex(RunContext &ctx, const char16_t *&p, const char16_t *formulaEnd, int32_t *index) {
+    const char16_t *begin = p + 1;
+    const char16_t *end = evScanArgument(begin, formulaEnd);
     Value *v = evEvaluateRange(ctx, begin, end);
     if (!v) return false;
     bool ok = false;
-    if (*end != u']') errSet(ctx, kErrCharExpected, u"]");
+    if (end == formulaEnd || *end != u']') errSet(ctx, kErrCharExpected, u"]");
     else if (v->count != 0) errSet(ctx, kErrVectorNotAllowed);
     else ok = true;
     if (ok) *index = valToLong(v), p = end + 1;
@@ -83,7 +87,7 @@ bool readIndex(RunContext &ctx, char16_t *&p, int32_t *index) {
     return ok;
 }
 
-Value *readVariable(RunContext &ctx, char16_t *&p, const char16_t *name) {
+Value *readVariable(RunContext &ctx, const char16_t *&p, const char16_t *end, const char16_t *name) {
     Variable *var = varLookup(ctx, name);
     if (!var) {
         errSet(ctx, kErrVarUndeclared, name);
@@ -91,9 +95,9 @@ Value *readVariable(RunContext &ctx, char16_t *&p, const char16_t *name) {
     }
     const Value *storage = var->value;
     int32_t index = 0;
-    bool element = *p == u'[';
+    bool element = p < end && *p == u'[';
     if (element) {
-        if (!readIndex(ctx, p, &index)) return nullptr;
+        if (!readIndex(ctx, p, end, &index)) return nullptr;
         if (storage->count == 0) {
             errSet(ctx, kErrNotIndexable, var->name);
             return nullptr;
@@ -109,6 +113,7 @@ Value *readVariable(RunContext &ctx, char16_t *&p, const char16_t *name) {
     ref->varName = var->name;
     ref->varCount = storage->count;
     ref->index = index;
+    fpRecordVariable(ctx, var, element);
     return ref;
 }
 
@@ -123,27 +128,30 @@ bool isNameStart(char16_t c) {
 
 }  // namespace
 
-Value *opReadOperand(RunContext &ctx, char16_t *&p) {
-    if (*p == u'"') return readText(ctx, p);
-    if (*p == u'\'') return readCharConstant(ctx, p);
+Value *opReadOperand(RunContext &ctx, const char16_t *&p, const char16_t *end) {
+    if (*p == u'"') return readText(ctx, p, end);
+    if (*p == u'\'') return readCharConstant(ctx, p, end);
     char16_t token[kNameCapacity];
     int32_t len = 0;
-    for (; *p && isTokenChar(*p); ++p)
+    for (; p < end && isTokenChar(*p); ++p)
         if (len < kNameCapacity - 1) token[len++] = *p;
     token[len] = 0;
     bool isNumber = false;
     Value *number = readNumber(ctx, token, len, &isNumber);
     if (isNumber) return number;
     if (len == 0 || !isNameStart(token[0])) {
-        errSet(ctx, kErrBadOperand, p);
+        errSetN(ctx, kErrBadOperand, p, int32_t(end - p));
         return nullptr;
     }
     bool host = false;
     if (const FunctionRow *row = fnLookup(ctx, token, &host)) {
-        if (!row->signature) return valNewLong(ctx, int32_t(row->identifier));
-        return fnCall(ctx, row, host, p);
+        if (!row->signature) {
+            fpRecordLong(ctx, int32_t(row->identifier));
+            return valNewLong(ctx, int32_t(row->identifier));
+        }
+        return fnCall(ctx, row, host, p, end);
     }
-    return readVariable(ctx, p, token);
+    return readVariable(ctx, p, end, token);
 }
 
 }  // namespace mx

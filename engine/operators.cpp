@@ -24,15 +24,8 @@ constexpr OperatorRow kOperators[] = {
 };
 constexpr OperatorRow kBracketRow = {u"(", 1, kOpBracket, 2, 3};
 
-Value *fail(RunContext &ctx, int32_t code, Value *left, Value *right) {
-    valRelease(left);
-    valRelease(right);
-    errSet(ctx, code);
-    return nullptr;
-}
-
-// Both operands are released by the caller of these.
-Value *applyLong(RunContext &ctx, int8_t op, int32_t x, int32_t y) {
+// Both operands stay with the caller; the result is written into result.
+bool applyLong(RunContext &ctx, int8_t op, int32_t x, int32_t y, OperatorResult *result) {
     uint32_t ux = uint32_t(x), uy = uint32_t(y);
     int32_t r = 0;
     switch (op) {
@@ -48,7 +41,7 @@ Value *applyLong(RunContext &ctx, int8_t op, int32_t x, int32_t y) {
         case kOpDivide:
             if (y == 0) {
                 errSet(ctx, kErrDivisionByZero);
-                return nullptr;
+                return false;
             }
             r = (x == INT32_MIN && y == -1) ? INT32_MIN : x / y;
             break;
@@ -58,35 +51,37 @@ Value *applyLong(RunContext &ctx, int8_t op, int32_t x, int32_t y) {
         case kOpNegate: r = int32_t(0u - ux); break;
         default: break;
     }
-    return valNewLong(ctx, r);
+    result->setLong(r);
+    return true;
 }
 
-Value *applyDouble(RunContext &ctx, int8_t op, double x, double y) {
+bool applyDouble(RunContext &ctx, int8_t op, double x, double y, OperatorResult *result) {
     switch (op) {
-        case kOpLessEqual: return valNewLong(ctx, x <= y);
-        case kOpGreaterEqual: return valNewLong(ctx, x >= y);
-        case kOpNotEqual: return valNewLong(ctx, x != y);
-        case kOpEqual: return valNewLong(ctx, x == y);
-        case kOpLess: return valNewLong(ctx, x < y);
-        case kOpGreater: return valNewLong(ctx, x > y);
-        case kOpAdd: return valNewDouble(ctx, x + y);
-        case kOpSubtract: return valNewDouble(ctx, x - y);
-        case kOpMultiply: return valNewDouble(ctx, x * y);
+        case kOpLessEqual: result->setLong(x <= y); return true;
+        case kOpGreaterEqual: result->setLong(x >= y); return true;
+        case kOpNotEqual: result->setLong(x != y); return true;
+        case kOpEqual: result->setLong(x == y); return true;
+        case kOpLess: result->setLong(x < y); return true;
+        case kOpGreater: result->setLong(x > y); return true;
+        case kOpAdd: result->setDouble(x + y); return true;
+        case kOpSubtract: result->setDouble(x - y); return true;
+        case kOpMultiply: result->setDouble(x * y); return true;
         case kOpDivide:
             if (y == 0.0) {
                 errSet(ctx, kErrDivisionByZero);
-                return nullptr;
+                return false;
             }
-            return valNewDouble(ctx, x / y);
-        case kOpNegate: return valNewDouble(ctx, -x);
+            result->setDouble(x / y);
+            return true;
+        case kOpNegate: result->setDouble(-x); return true;
         default:  // logical operators take no doubles
             errSet(ctx, kErrBadOperator);
-            return nullptr;
+            return false;
     }
 }
 
 // Stores right's value into the scalar left refers to, converted to left's type.
-void storeScalar(Value *left, const Value *right) {
+void storeScalar(const Value *left, const Value *right) {
     switch (left->type) {
         case kChar: *static_cast<char16_t *>(left->data) = valToChar(right); break;
         case kLong: *static_cast<int32_t *>(left->data) = valToLong(right); break;
@@ -95,34 +90,43 @@ void storeScalar(Value *left, const Value *right) {
     }
 }
 
-Value *assign(RunContext &ctx, Value *left, Value *right) {
-    if (left->kind != kReference) return fail(ctx, kErrAssignConstant, left, right);
+bool assign(RunContext &ctx, const Value *left, const Value *right, OperatorResult *result) {
+    if (left->kind != kReference) return errSet(ctx, kErrAssignConstant), false;
     bool leftVector = left->count != 0, rightVector = right->count != 0;
-    if (leftVector != rightVector) return fail(ctx, kErrVectorNotAllowed, left, right);
+    if (leftVector != rightVector) return errSet(ctx, kErrVectorNotAllowed), false;
     textEndForget(left->data, size_t(leftVector ? left->count : 1) * size_t(valElementSize(left->type)));
     if (!leftVector) {
         storeScalar(left, right);
     } else {
-        if (left->type != right->type) return fail(ctx, kErrTypeMismatch, left, right);
+        if (left->type != right->type) return errSet(ctx, kErrTypeMismatch), false;
         int32_t n = left->count < right->count ? left->count : right->count;
         int32_t size = valElementSize(left->type);
         std::memmove(left->data, right->data, size_t(n) * size_t(size));
         if (left->type == kChar) static_cast<char16_t *>(left->data)[left->count - 1] = 0;
     }
     trAssignment(ctx, left);
-    Value *result = valCreate(ctx, left->type, kOwning, 0);
-    if (result) std::memcpy(result->data, left->data, size_t(valElementSize(left->type)));
-    valRelease(left);
-    valRelease(right);
-    return result;
+    // The assignment's value is the target's (first) element.
+    result->type = left->type;
+    std::memcpy(&result->number, left->data, size_t(valElementSize(left->type)));
+    return true;
 }
 
 }  // namespace
 
-const OperatorRow *oprMatch(const char16_t *text, int32_t arity) {
+bool oprCompute(RunContext &ctx, const OperatorRow *row, const Value *left, const Value *right,
+                OperatorResult *result) {
+    if (row->number == kOpAssign) return assign(ctx, left, right, result);
+    if (left->count != 0 || (right && right->count != 0)) return errSet(ctx, kErrVectorNotAllowed), false;
+    bool isDouble = left->type == kDouble || (right && right->type == kDouble);
+    return isDouble ? applyDouble(ctx, row->number, valToDouble(left), right ? valToDouble(right) : 0.0, result)
+                    : applyLong(ctx, row->number, valToLong(left), right ? valToLong(right) : 0, result);
+}
+
+const OperatorRow *oprMatch(const char16_t *text, const char16_t *end, int32_t arity) {
     for (const OperatorRow &row : kOperators) {
         if (row.arity != arity) continue;
-        if (text[0] == row.symbol[0] && (row.length == 1 || text[1] == row.symbol[1])) return &row;
+        if (text[0] == row.symbol[0] && (row.length == 1 || (end - text > 1 && text[1] == row.symbol[1])))
+            return &row;
     }
     return nullptr;
 }
@@ -130,12 +134,12 @@ const OperatorRow *oprMatch(const char16_t *text, int32_t arity) {
 const OperatorRow *oprBracket() { return &kBracketRow; }
 
 Value *oprApply(RunContext &ctx, const OperatorRow *row, Value *left, Value *right) {
-    if (row->number == kOpAssign) return assign(ctx, left, right);
-    if (left->count != 0 || (right && right->count != 0))
-        return fail(ctx, kErrVectorNotAllowed, left, right);
-    bool isDouble = left->type == kDouble || (right && right->type == kDouble);
-    Value *result = isDouble ? applyDouble(ctx, row->number, valToDouble(left), right ? valToDouble(right) : 0.0)
-                             : applyLong(ctx, row->number, valToLong(left), right ? valToLong(right) : 0);
+    OperatorResult r;
+    Value *result = nullptr;
+    if (oprCompute(ctx, row, left, right, &r)) {
+        result = valCreate(ctx, r.type, kOwning, 0);
+        if (result) std::memcpy(result->data, &r.number, size_t(valElementSize(r.type)));
+    }
     valRelease(left);
     valRelease(right);
     return result;

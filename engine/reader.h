@@ -42,6 +42,15 @@ inline int32_t rdChar(RunContext &ctx, uint32_t flags) {
     }
 }
 
+// A place in the text: the reader's position and the line it is on, which
+// always move together.
+struct TextPlace {
+    int32_t pos;
+    int32_t line;
+};
+inline TextPlace rdPlace(const RunContext &ctx) { return TextPlace{ctx.pos, ctx.line}; }
+inline void rdSeek(RunContext &ctx, TextPlace place) { ctx.pos = place.pos, ctx.line = place.line; }
+
 // Steps back over c, the character just read; nothing for -1 or at position 0.
 void rdUnread(RunContext &ctx, int32_t c);
 

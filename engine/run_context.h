@@ -10,6 +10,8 @@ namespace mx {
 
 struct MxpFile;
 struct Variable;
+class StatementCache;
+struct FormulaRecorder;
 
 constexpr int32_t kMacroNameCapacity = 50;
 constexpr int32_t kErrorArgCapacity = 128;  // at most 127 characters are kept
@@ -56,6 +58,12 @@ struct RunContext {
     char16_t escape = u'\\';
     // Nesting depth of statements, formulas and nested runs (see kMaxDepth).
     int32_t depth = 0;
+    // What this run has read of its text (see engine/statement_cache.h), the
+    // recording of the formula being evaluated for the first time, and the
+    // count of local declarations so far.
+    StatementCache *cache = nullptr;
+    FormulaRecorder *recorder = nullptr;
+    int32_t localGeneration = 0;
 };
 
 // Blocks, conditions, loops, function arguments and nested runs together may

@@ -6,6 +6,7 @@
 #include "engine/errors.h"
 #include "engine/loader.h"
 #include "engine/reader.h"
+#include "engine/statement_cache.h"
 #include "engine/statements.h"
 #include "engine/trace.h"
 #include "base/u16.h"
@@ -29,6 +30,11 @@ void resetRunState(RunContext &ctx) {
     ctx.capacity = ctx.pos = ctx.length = 0;
     ctx.escape = u'\\';
     for (MxpFile *&f : ctx.files) f = nullptr;
+    // A nested run starts from a copy of its caller's context: the caller's
+    // cache and recording stay the caller's.
+    ctx.cache = nullptr;
+    ctx.recorder = nullptr;
+    ctx.localGeneration = 0;
 }
 
 void cleanUp(RunContext &ctx) {
@@ -37,6 +43,8 @@ void cleanUp(RunContext &ctx) {
         f = nullptr;
     }
     trCloseFile(ctx);
+    scDestroy(ctx.cache);
+    ctx.cache = nullptr;
     varReleaseList(ctx.locals);
     ctx.locals = nullptr;
     ldRelease(ctx);
@@ -66,7 +74,10 @@ int32_t runDriver(RunContext &ctx) {
     // what the platform layer may throw outside them (opening the macro file,
     // writing the trace), so that no exception reaches the host.
     try {
-        if (ldLoad(ctx) == 0) result = checkHeader(ctx) < 0 ? kStError : stExecute(ctx, Mode::kRun);
+        if (ldLoad(ctx) == 0 && checkHeader(ctx) == 0) {
+            ctx.cache = scCreate();
+            result = stExecute(ctx, Mode::kRun);
+        }
     } catch (const std::bad_alloc &) {
         errSet(ctx, kErrNoMemory);
         result = kStError;

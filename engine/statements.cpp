@@ -1,9 +1,13 @@
 #include "engine/statements.h"
 
+#include <memory>
+#include <new>
+
 #include "engine/collect.h"
 #include "engine/errors.h"
 #include "engine/eval.h"
 #include "engine/reader.h"
+#include "engine/statement_cache.h"
 #include "engine/value.h"
 
 namespace mx {
@@ -22,39 +26,105 @@ bool expect(RunContext &ctx, char16_t c, const char16_t *shown) {
     return false;
 }
 
+// Remembers what was read from the place from up to the reader's
+// position. Returns the entry, or absent when the run keeps no cache.
+CachedStatement *remember(RunContext &ctx, TextPlace from, CacheRole role, CachedKind kind) {
+    CachedStatement *e = scAdd(ctx, from.pos, role);
+    if (!e) return nullptr;
+    e->kind = kind;
+    e->after = ctx.pos;
+    e->lineDelta = ctx.line - from.line;
+    return e;
+}
+
+// Moves the reader past what the entry read, as reading it would have.
+void passOver(RunContext &ctx, const CachedStatement &e, TextPlace from) {
+    rdSeek(ctx, TextPlace{e.after, from.line + e.lineDelta});
+}
+
+// Evaluates the entry's formula: by its program when one was recorded and
+// still resolves its names as the text would, else from the text, recording
+// the program for the next time.
+bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
+    if (e.program && (!e.program->names || e.generation == ctx.localGeneration))
+        return fpRun(ctx, *e.program, result);
+    e.program.reset();
+    FormulaRecorder recorder;
+    ctx.recorder = &recorder;
+    Value *v = evEvaluate(ctx, e.formula.data(), e.formula.data() + e.formula.size());
+    ctx.recorder = nullptr;
+    if (!v) return false;
+    result->vector = v->count != 0;
+    result->asLong = valToLong(v);
+    valRelease(v);
+    if (!recorder.spoiled) {
+        try {
+            e.program = std::make_unique<FormulaProgram>(std::move(recorder.program));
+            e.generation = ctx.localGeneration;
+        } catch (const std::bad_alloc &) {  // read from the text again next time
+        }
+    }
+    return true;
+}
+
+// Reads a formula up to the character close, which must follow it, and keeps
+// it in a cache entry for the place from. Absent with the error set.
+CachedStatement *readFormula(RunContext &ctx, const char16_t *start, char16_t close, const char16_t *shown,
+                             TextPlace from, CacheRole role, CachedKind kind,
+                             CachedStatement &spare) {
+    char16_t formula[kFormulaCapacity];
+    int32_t length = fmCollect(ctx, start, formula);
+    if (length < 0) return nullptr;
+    CachedStatement *e = nullptr;
+    if (expect(ctx, close, shown)) {
+        e = remember(ctx, from, role, kind);
+        if (!e) e = &spare;  // no cache: the entry lives for this statement only
+        try {
+            e->formula.assign(formula, size_t(length));
+        } catch (const std::bad_alloc &) {
+            errSet(ctx, kErrNoMemory);
+            e = nullptr;
+        }
+    }
+    return e;
+}
+
 // condition := '(' formula ')'
 // Returns 1 true, 0 false, -1 error. Skip mode reads it and gives false.
 int32_t condition(RunContext &ctx, Mode mode) {
-    if (!expect(ctx, u'(', u"(")) return -1;
-    char16_t *formula = fmCollectInBuffer(ctx, nullptr);
-    if (!formula) return -1;
-    int32_t result = -1;
-    if (!expect(ctx, u')', u")")) {
-    } else if (mode == Mode::kSkip) {
-        result = 0;
-    } else if (Value *v = evEvaluate(ctx, formula)) {
-        if (v->count != 0) errSet(ctx, kErrVectorNotAllowed, formula);
-        else result = valToLong(v) != 0;
-        valRelease(v);
+    TextPlace from = rdPlace(ctx);
+    CachedStatement spare;
+    CachedStatement *e = scFind(ctx, from.pos, CacheRole::kCondition);
+    if (e) {
+        passOver(ctx, *e, from);
+    } else {
+        if (!expect(ctx, u'(', u"(")) return -1;
+        e = readFormula(ctx, nullptr, u')', u")", from, CacheRole::kCondition, CachedKind::kCondition, spare);
+        if (!e) return -1;
     }
-    fmReleaseBuffer(formula);
-    return result;
+    if (mode == Mode::kSkip) return 0;
+    FormulaResult r;
+    if (!evaluate(ctx, *e, &r)) return -1;
+    if (r.vector) {
+        errSet(ctx, kErrVectorNotAllowed, e->formula.c_str());
+        return -1;
+    }
+    return r.asLong != 0;
+}
+
+// Runs the formula statement of the entry.
+int32_t runFormula(RunContext &ctx, CachedStatement &e, Mode mode) {
+    if (mode == Mode::kSkip) return kStNormal;
+    FormulaResult r;
+    return evaluate(ctx, e, &r) ? kStNormal : kStError;
 }
 
 // formula-statement := formula ';'
-int32_t formulaStatement(RunContext &ctx, const char16_t *word, Mode mode) {
-    char16_t *formula = fmCollectInBuffer(ctx, word);
-    if (!formula) return kStError;
-    int32_t result = kStError;
-    if (!expect(ctx, u';', u";")) {
-    } else if (mode == Mode::kSkip) {
-        result = kStNormal;
-    } else if (Value *v = evEvaluate(ctx, formula)) {
-        valRelease(v);
-        result = kStNormal;
-    }
-    fmReleaseBuffer(formula);
-    return result;
+int32_t formulaStatement(RunContext &ctx, const char16_t *word, Mode mode, TextPlace from) {
+    CachedStatement spare;
+    CachedStatement *e =
+        readFormula(ctx, word, u';', u";", from, CacheRole::kStatement, CachedKind::kFormula, spare);
+    return e ? runFormula(ctx, *e, mode) : kStError;
 }
 
 // if-statement := 'if' condition statement
@@ -65,9 +135,8 @@ int32_t ifStatement(RunContext &ctx, Mode mode) {
 }
 
 // while-statement := 'while' condition statement
-// The condition and body are read again from the text for every turn.
 int32_t whileStatement(RunContext &ctx, Mode mode) {
-    int32_t pos = ctx.pos, line = ctx.line;
+    TextPlace start = rdPlace(ctx);
 #ifdef MX_FUZZ
     int32_t turns = 0;
 #endif
@@ -84,7 +153,7 @@ int32_t whileStatement(RunContext &ctx, Mode mode) {
                 }
                 if (++turns == stFuzzTurnsPerLoop) return kStNormal;  // just after the body
 #endif
-                ctx.pos = pos, ctx.line = line;
+                rdSeek(ctx, start);
                 break;
             case kStBreak: return kStNormal;
             case kStEnd: errSet(ctx, kErrKeywordNotAllowed, u"end"); return kStError;
@@ -99,7 +168,7 @@ int32_t jumpStatement(RunContext &ctx, Mode mode, int32_t result) {
     return mode == Mode::kRun ? result : kStNormal;
 }
 
-int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word, Mode mode) {
+int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word, Mode mode, TextPlace from) {
     switch (keyword) {
         case kKwBegin: return stBlock(ctx, mode);
         case kKwEnd: return kStEnd;
@@ -111,20 +180,44 @@ int32_t keywordStatement(RunContext &ctx, int32_t keyword, const char16_t *word,
         case kKwInt:
         case kKwFloat: return dcDeclare(ctx, false, keyword, mode) < 0 ? kStError : kStNormal;
         case kKwStatic: return dcDeclareStatic(ctx, mode) < 0 ? kStError : kStNormal;
-        default: return formulaStatement(ctx, word, mode);
+        default: return formulaStatement(ctx, word, mode, from);
     }
 }
 
+// Runs a statement whose reading is in the cache.
+int32_t runCached(RunContext &ctx, CachedStatement &e, Mode mode) {
+    switch (e.kind) {
+        case CachedKind::kKeyword: return keywordStatement(ctx, e.keyword, nullptr, mode, TextPlace{});
+        case CachedKind::kOpen: return stBlock(ctx, mode);
+        case CachedKind::kClose: return kStEnd;
+        default: return runFormula(ctx, e, mode);
+    }
+}
+
+// Keywords whose statement goes on after the word without depending on it.
+bool isControlKeyword(int32_t keyword) { return keyword >= kKwBegin && keyword <= kKwExit; }
+
 int32_t execute(RunContext &ctx, Mode mode) {
+    TextPlace from = rdPlace(ctx);
+    if (CachedStatement *e = scFind(ctx, from.pos, CacheRole::kStatement)) {
+        passOver(ctx, *e, from);
+        return runCached(ctx, *e, mode);
+    }
     char16_t word[kWordCapacity];
     if (rdWord(ctx, word, kWordCapacity) < 0) return kStError;
     if (word[0] == 0) {
         int32_t c = rdChar(ctx, kSkipWhite);
-        if (c == u'{') return stBlock(ctx, mode);
-        if (c == u'}') return kStEnd;
+        if (c == u'{' || c == u'}') {
+            remember(ctx, from, CacheRole::kStatement, c == u'{' ? CachedKind::kOpen : CachedKind::kClose);
+            return c == u'{' ? stBlock(ctx, mode) : kStEnd;
+        }
         rdUnread(ctx, c);
     }
-    return keywordStatement(ctx, rdKeyword(word), word, mode);
+    int32_t keyword = rdKeyword(word);
+    if (isControlKeyword(keyword))
+        if (CachedStatement *e = remember(ctx, from, CacheRole::kStatement, CachedKind::kKeyword))
+            e->keyword = keyword;
+    return keywordStatement(ctx, keyword, word, mode, from);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "interface/attach.h"
 
 #include "dde/dde_attach.h"
-#include "engine/collect.h"
 #include "engine/process_state.h"
 #include "engine/value_spare.h"
 #include "engine/variables.h"
@@ -25,7 +24,6 @@ void processDetach() {
     varReleaseList(gProcess.statics);
     gProcess.statics = nullptr;
     valReleaseSpare();
-    fmReleaseSpareBuffers();
     ddeDetach(gProcess.module);
 }
 
