@@ -57,73 +57,92 @@ struct Slot {
     }
 };
 
-int32_t longOf(const Value &v) { return *static_cast<const int32_t *>(v.data); }
-double doubleOf(const Value &v) {
-    return v.type == kDouble ? *static_cast<const double *>(v.data) : double(*static_cast<const int32_t *>(v.data));
-}
+// A long or double scalar read straight from where it lives.
+struct Number {
+    bool isDouble;
+    int32_t asLong;
+    double asDouble;
+};
 
-// Binary operators on long scalars, computed inline; false leaves the
-// operation (division, logic, a traced assignment) to oprCompute.
-bool quickLong(RunContext &ctx, int8_t op, Value &left, const Value &right, Slot &out) {
-    int32_t x = longOf(left), y = longOf(right);
-    uint32_t ux = uint32_t(x), uy = uint32_t(y);
-    switch (op) {
-        case kOpAssign:
-            if (left.kind != kReference || ctx.traceSwitches) return false;
-            *static_cast<int32_t *>(left.data) = y;
-            out.setLong(y);
-            return true;
-        case kOpAdd: out.setLong(int32_t(ux + uy)); return true;
-        case kOpSubtract: out.setLong(int32_t(ux - uy)); return true;
-        case kOpMultiply: out.setLong(int32_t(ux * uy)); return true;
-        case kOpLess: out.setLong(x < y); return true;
-        case kOpLessEqual: out.setLong(x <= y); return true;
-        case kOpGreater: out.setLong(x > y); return true;
-        case kOpGreaterEqual: out.setLong(x >= y); return true;
-        case kOpEqual: out.setLong(x == y); return true;
-        case kOpNotEqual: out.setLong(x != y); return true;
-        default: return false;
+// A folded operand's or a stack slot's number; false for texts, characters
+// and vectors, which take the general path. Inline: two per operator.
+[[gnu::always_inline]] inline bool numberOf(const Operand &o, const Value *stacked, Number *x) {
+    if (o.kind == StepKind::kLong) {
+        x->isDouble = false, x->asLong = o.n;
+        return true;
     }
-}
-
-// The same for scalars of which one at least is a double.
-bool quickDouble(RunContext &ctx, int8_t op, Value &left, const Value &right, Slot &out) {
-    double x = doubleOf(left), y = doubleOf(right);
-    switch (op) {
-        case kOpAssign:
-            if (left.kind != kReference || left.type != kDouble || ctx.traceSwitches) return false;
-            *static_cast<double *>(left.data) = y;
-            out.setDouble(y);
-            return true;
-        case kOpAdd: out.setDouble(x + y); return true;
-        case kOpSubtract: out.setDouble(x - y); return true;
-        case kOpMultiply: out.setDouble(x * y); return true;
-        case kOpLess: out.setLong(x < y); return true;
-        case kOpLessEqual: out.setLong(x <= y); return true;
-        case kOpGreater: out.setLong(x > y); return true;
-        case kOpGreaterEqual: out.setLong(x >= y); return true;
-        case kOpEqual: out.setLong(x == y); return true;
-        case kOpNotEqual: out.setLong(x != y); return true;
-        default: return false;
+    if (o.kind == StepKind::kDouble) {
+        x->isDouble = true, x->asDouble = o.number;
+        return true;
     }
-}
-
-// A binary operator on two long or double scalars, the common case, without
-// the general path; false when the operation is not one of those.
-bool quickApply(RunContext &ctx, const OperatorRow *row, Slot *s, int32_t &n) {
-    if (row->arity != 2) return false;
-    Value &left = s[n - 2].v;
-    const Value &right = s[n - 1].v;
-    if ((left.count | right.count) != 0 || left.type == kChar || right.type == kChar) return false;
-    Slot out;
-    bool done = left.type == kLong && right.type == kLong ? quickLong(ctx, row->number, left, right, out)
-                                                           : quickDouble(ctx, row->number, left, right, out);
-    if (!done) return false;
-    --n;
-    s[n - 1].v = out.v;
-    s[n - 1].v.data = s[n - 1].element;
-    std::memcpy(s[n - 1].element, out.element, 8);
+    const Value &v = o.kind == StepKind::kVariable ? *o.variable->value : *stacked;
+    if (v.count != 0 || v.type == kChar) return false;
+    x->isDouble = v.type == kDouble;
+    if (x->isDouble) x->asDouble = *static_cast<const double *>(v.data);
+    else x->asLong = *static_cast<const int32_t *>(v.data);
     return true;
+}
+
+double toDouble(const Number &x) { return x.isDouble ? x.asDouble : double(x.asLong); }
+
+// Arithmetic and comparisons on two numbers, as the operators compute them;
+// false leaves the operation (division, logic) to the general path.
+bool quickCompute(int8_t op, const Number &x, const Number &y, Slot &out) {
+    if (!x.isDouble && !y.isDouble) {
+        uint32_t ux = uint32_t(x.asLong), uy = uint32_t(y.asLong);
+        switch (op) {
+            case kOpAdd: out.setLong(int32_t(ux + uy)); return true;
+            case kOpSubtract: out.setLong(int32_t(ux - uy)); return true;
+            case kOpMultiply: out.setLong(int32_t(ux * uy)); return true;
+            case kOpLess: out.setLong(x.asLong < y.asLong); return true;
+            case kOpLessEqual: out.setLong(x.asLong <= y.asLong); return true;
+            case kOpGreater: out.setLong(x.asLong > y.asLong); return true;
+            case kOpGreaterEqual: out.setLong(x.asLong >= y.asLong); return true;
+            case kOpEqual: out.setLong(x.asLong == y.asLong); return true;
+            case kOpNotEqual: out.setLong(x.asLong != y.asLong); return true;
+            default: return false;
+        }
+    }
+    double a = toDouble(x), b = toDouble(y);
+    switch (op) {
+        case kOpAdd: out.setDouble(a + b); return true;
+        case kOpSubtract: out.setDouble(a - b); return true;
+        case kOpMultiply: out.setDouble(a * b); return true;
+        case kOpLess: out.setLong(a < b); return true;
+        case kOpLessEqual: out.setLong(a <= b); return true;
+        case kOpGreater: out.setLong(a > b); return true;
+        case kOpGreaterEqual: out.setLong(a >= b); return true;
+        case kOpEqual: out.setLong(a == b); return true;
+        case kOpNotEqual: out.setLong(a != b); return true;
+        default: return false;
+    }
+}
+
+// An untraced assignment of a number to a long or double scalar variable;
+// false leaves it to the general path (constants, conversions, vectors).
+bool quickAssign(RunContext &ctx, const Operand &o, const Value *stacked, const Number &y, Slot &out) {
+    if (ctx.traceSwitches) return false;
+    const Value *target = o.kind == StepKind::kVariable ? o.variable->value : stacked;
+    if (o.kind != StepKind::kVariable && (o.kind != StepKind::kApply || stacked->kind != kReference)) return false;
+    if (target->count != 0) return false;
+    if (target->type == kLong && !y.isDouble) {
+        *static_cast<int32_t *>(target->data) = y.asLong;
+        out.setLong(y.asLong);
+        return true;
+    }
+    if (target->type == kDouble) {
+        double d = toDouble(y);
+        *static_cast<double *>(target->data) = d;
+        out.setDouble(d);
+        return true;
+    }
+    return false;
+}
+
+// A reference to the whole variable, as reading its name gives.
+void variableRef(Variable *var, Slot &slot) {
+    const Value *storage = var->value;
+    slot.v = Value{kReference, storage->type, storage->data, storage->count, var->name, storage->count, 0};
 }
 
 // Operands held on the machine's stack for all but unusually deep formulas.
@@ -153,12 +172,45 @@ bool element(RunContext &ctx, Variable *var, Slot &top) {
     return true;
 }
 
-bool apply(RunContext &ctx, const OperatorRow *row, Slot *s, int32_t &n) {
-    OperatorResult r;
+// The Value the evaluator would hold for a folded operand, made in tmp.
+const Value *materialise(const Operand &o, Slot &tmp) {
+    switch (o.kind) {
+        case StepKind::kLong: tmp.setLong(o.n); break;
+        case StepKind::kDouble: tmp.setDouble(o.number); break;
+        default: variableRef(o.variable, tmp); break;
+    }
+    return &tmp.v;
+}
+
+// Applies the operator of step to its operands (folded or on the stack) and
+// leaves the result on top of the stack.
+bool apply(RunContext &ctx, const Step &step, Slot *s, int32_t &n) {
+    const OperatorRow *row = step.row;
     bool binary = row->arity == 2;
-    if (!oprCompute(ctx, row, &s[n - 1 - binary].v, binary ? &s[n - 1].v : nullptr, &r)) return false;
-    n -= binary;
-    s[n - 1].scalar(r.type, r.number);
+    // Operands on the stack: the right one on top, the left one below it.
+    int32_t fromStack = (step.left.kind == StepKind::kApply) + (binary && step.right.kind == StepKind::kApply);
+    const Value *stackLeft = step.left.kind == StepKind::kApply ? &s[n - fromStack].v : nullptr;
+    const Value *stackRight = binary && step.right.kind == StepKind::kApply ? &s[n - 1].v : nullptr;
+    Slot out;
+    Number x, y;
+    bool done = false;
+    if (binary && numberOf(step.right, stackRight, &y)) {
+        if (row->number == kOpAssign) done = quickAssign(ctx, step.left, stackLeft, y, out);
+        else done = numberOf(step.left, stackLeft, &x) && quickCompute(row->number, x, y, out);
+    }
+    if (!done) {
+        Slot tmpLeft, tmpRight;
+        const Value *left = stackLeft ? stackLeft : materialise(step.left, tmpLeft);
+        const Value *right = !binary ? nullptr : stackRight ? stackRight : materialise(step.right, tmpRight);
+        OperatorResult r;
+        if (!oprCompute(ctx, row, left, right, &r)) return false;
+        out.scalar(r.type, r.number);
+    }
+    n -= fromStack;
+    Slot &top = s[n++];
+    top.v = out.v;
+    top.v.data = top.element;
+    std::memcpy(top.element, out.element, sizeof top.element);
     return true;
 }
 
@@ -189,17 +241,12 @@ bool runSteps(RunContext &ctx, const FormulaProgram &program, Slot *s, int32_t &
             case StepKind::kText:
                 s[n++].v = Value{kOwning, kChar, const_cast<char16_t *>(texts + step.n), step.length, nullptr, 0, 0};
                 break;
-            case StepKind::kVariable: {
-                const Value *storage = step.variable->value;
-                s[n++].v = Value{kReference, storage->type, storage->data, storage->count, step.variable->name,
-                                 storage->count, 0};
-                break;
-            }
+            case StepKind::kVariable: variableRef(step.variable, s[n++]); break;
             case StepKind::kElement:
                 if (!element(ctx, step.variable, s[n - 1])) return false;
                 break;
             case StepKind::kApply:
-                if (!quickApply(ctx, step.row, s, n) && !apply(ctx, step.row, s, n)) return false;
+                if (!apply(ctx, step, s, n)) return false;
                 break;
             case StepKind::kCall:
                 if (!call(ctx, step, s, n)) return false;
@@ -287,8 +334,42 @@ bool fpRun(RunContext &ctx, const FormulaProgram &program, FormulaResult *result
     ctx.depth = depth;  // also where an error left an argument's level open
     if (!ok) return false;
     result->vector = s[0].v.count != 0;
-    result->asLong = s[0].v.type == kLong ? longOf(s[0].v) : valToLong(&s[0].v);
+    result->asLong = valToLong(&s[0].v);
     return true;
+}
+
+namespace {
+bool foldable(const Step &s) {
+    return s.kind == StepKind::kLong || s.kind == StepKind::kDouble || s.kind == StepKind::kVariable;
+}
+
+Operand operandOf(const Step &s) {
+    Operand o;
+    o.kind = s.kind;
+    o.n = s.n;
+    if (s.kind == StepKind::kVariable) o.variable = s.variable;
+    else o.number = s.number;
+    return o;
+}
+}  // namespace
+
+void fpFold(FormulaProgram &program) {
+    std::vector<Step> &steps = program.steps;
+    size_t out = 0;
+    for (size_t i = 0; i < steps.size(); ++i) {
+        Step step = steps[i];
+        if (step.kind == StepKind::kApply) {
+            // The step just before pushed the top operand: the right one of a
+            // binary operator, the only one of a unary one.
+            Operand &top = step.row->arity == 2 ? step.right : step.left;
+            if (out > 0 && foldable(steps[out - 1])) {
+                top = operandOf(steps[--out]);
+                if (step.row->arity == 2 && out > 0 && foldable(steps[out - 1])) step.left = operandOf(steps[--out]);
+            }
+        }
+        steps[out++] = step;
+    }
+    steps.resize(out);
 }
 
 size_t fpMemory(const FormulaProgram &program) {

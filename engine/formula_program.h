@@ -30,6 +30,19 @@ enum class StepKind : uint8_t {
     kLeave,     // it ended
 };
 
+// An operand that a kApply step reads where it is (a constant or a whole
+// variable) instead of from the operand stack: the step that would have
+// pushed it just before the operator is folded into the operator.
+struct Operand {
+    StepKind kind = StepKind::kApply;  // kLong, kDouble, kVariable; kApply: from the stack
+    int32_t n = 0;                     // kLong: the value
+    union {
+        double number;
+        Variable *variable;
+    };
+    Operand() : number(0.0) {}
+};
+
 struct Step {
     StepKind kind;
     bool host = false;  // kCall: a function of the host's table
@@ -41,6 +54,7 @@ struct Step {
         const FunctionRow *function;
         Variable *variable;
     };
+    Operand left, right;  // kApply: folded operands (right stays on the stack for unary rows)
     Step() : kind(StepKind::kLong), number(0.0) {}
 };
 
@@ -76,6 +90,10 @@ void fpRecordVariable(RunContext &ctx, Variable *var, bool element);
 void fpRecordApply(RunContext &ctx, const OperatorRow *row);
 void fpRecordCall(RunContext &ctx, const FunctionRow *row, bool host, int32_t count);
 void fpRecordNesting(RunContext &ctx, bool enter);
+
+// Folds each constant or whole variable pushed just before an operator into
+// the operator (see Operand). Call once, when the recording is complete.
+void fpFold(FormulaProgram &program);
 
 // Runs program as one evaluation of its formula: one nesting level, the same
 // operations, errors, trace lines and calls in the same order as reading its

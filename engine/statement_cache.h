@@ -39,6 +39,12 @@ struct CachedStatement {
     // hide a static the program resolved).
     std::unique_ptr<FormulaProgram> program;
     int32_t generation = 0;
+    // Where reading the whole statement in skip mode ended (-1: not yet) and
+    // what it gave: skip mode neither evaluates nor declares, so it reads the
+    // same every time (the escape in force being part of the key).
+    int32_t skipAfter = -1;
+    int32_t skipLineDelta = 0;
+    int32_t skipResult = 0;
 };
 
 // An open-addressing table from keys (place, role, escape) to entries; the

@@ -59,6 +59,7 @@ bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
     valRelease(v);
     if (!recorder.spoiled) {
         try {
+            fpFold(recorder.program);
             e.program = std::make_unique<FormulaProgram>(std::move(recorder.program));
             e.generation = ctx.localGeneration;
         } catch (const std::bad_alloc &) {  // read from the text again next time
@@ -197,12 +198,8 @@ int32_t runCached(RunContext &ctx, CachedStatement &e, Mode mode) {
 // Keywords whose statement goes on after the word without depending on it.
 bool isControlKeyword(int32_t keyword) { return keyword >= kKwBegin && keyword <= kKwExit; }
 
-int32_t execute(RunContext &ctx, Mode mode) {
-    TextPlace from = rdPlace(ctx);
-    if (CachedStatement *e = scFind(ctx, from.pos, CacheRole::kStatement)) {
-        passOver(ctx, *e, from);
-        return runCached(ctx, *e, mode);
-    }
+// Reads and runs the statement at from, which the cache does not know yet.
+int32_t readStatement(RunContext &ctx, Mode mode, TextPlace from) {
     char16_t word[kWordCapacity];
     if (rdWord(ctx, word, kWordCapacity) < 0) return kStError;
     if (word[0] == 0) {
@@ -218,6 +215,28 @@ int32_t execute(RunContext &ctx, Mode mode) {
         if (CachedStatement *e = remember(ctx, from, CacheRole::kStatement, CachedKind::kKeyword))
             e->keyword = keyword;
     return keywordStatement(ctx, keyword, word, mode, from);
+}
+
+int32_t execute(RunContext &ctx, Mode mode) {
+    TextPlace from = rdPlace(ctx);
+    CachedStatement *e = scFind(ctx, from.pos, CacheRole::kStatement);
+    if (e && mode == Mode::kSkip && e->skipAfter >= 0) {  // a skipped statement is passed in one step
+        rdSeek(ctx, TextPlace{e->skipAfter, from.line + e->skipLineDelta});
+        return e->skipResult;
+    }
+    int32_t r = kStError;
+    if (e) {
+        passOver(ctx, *e, from);
+        r = runCached(ctx, *e, mode);
+    } else {
+        r = readStatement(ctx, mode, from);
+    }
+    if (mode == Mode::kSkip && r != kStError && (e || (e = scFind(ctx, from.pos, CacheRole::kStatement)))) {
+        e->skipAfter = ctx.pos;
+        e->skipLineDelta = ctx.line - from.line;
+        e->skipResult = r;
+    }
+    return r;
 }
 
 }  // namespace
