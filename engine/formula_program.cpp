@@ -370,6 +370,8 @@ void fpFold(FormulaProgram &program) {
         steps[out++] = step;
     }
     steps.resize(out);
+    steps.shrink_to_fit();  // a long macro keeps one program per formula
+    program.texts.shrink_to_fit();
 }
 
 size_t fpMemory(const FormulaProgram &program) {
