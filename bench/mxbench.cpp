@@ -7,9 +7,9 @@
 //   builtin  a loop that adds StrLen of a text each turn
 // Usage: mxbench [N [WORKLOAD]]   (default 1 000 000 turns, every workload)
 //        mxbench curve            (the cost curve and the cache's memory:
-//   "loop-T ns" per turn of the int loop for T turns, "lines-L ns" per
-//   statement of a loop whose body is L lines, "cache-L bytes entries" for the
-//   statement cache of that L-line macro)
+//   "loop-T ns" per turn of the int loop for T turns, "lines-L later first":
+//   ns per statement of a loop whose body is L lines, in a later turn and in
+//   the first, "cache-L bytes entries" for the statement cache of that macro)
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -63,11 +63,17 @@ void curve() {
         std::printf("loop-%ld %.1f\n", t,
                     runNs("int i; int s; while (i < " + std::to_string(t) + ") begin s = s + i; i = i + 1; end") /
                         double(t));
-    // The same number of statements run for both lengths.
+    // Per statement of a later turn: the time of 2T turns less that of T
+    // turns, over T turns; the first turn (reading the text and recording the
+    // formulas) is what T turns take beyond T later turns.
     for (long lines : {1000L, 100000L}) {
-        long turns = 1000000 / lines;
-        std::printf("lines-%ld %.1f\n", lines, runNs(linesMacro(lines, turns)) / double(turns * (lines + 1)));
+        long turns = 2000000 / lines, statements = lines + 1;
+        double once = runNs(linesMacro(lines, turns));
         mx::CacheSize size = mx::scLastDestroyed();
+        double twice = runNs(linesMacro(lines, 2 * turns));
+        double later = (twice - once) / double(turns * statements);
+        double first = (once - later * double(turns * statements)) / double(statements);
+        std::printf("lines-%ld %.1f %.1f\n", lines, later, first);
         std::printf("cache-%ld %zu %zu\n", lines, size.bytes, size.entries);
     }
 }

@@ -59,9 +59,9 @@ struct Slot {
 
 // A long or double scalar read straight from where it lives.
 struct Number {
-    bool isDouble;
-    int32_t asLong;
-    double asDouble;
+    bool isDouble = false;
+    int32_t asLong = 0;
+    double asDouble = 0.0;
 };
 
 // A folded operand's or a stack slot's number; false for texts, characters
@@ -370,6 +370,8 @@ void fpFold(FormulaProgram &program) {
         steps[out++] = step;
     }
     steps.resize(out);
+    steps.shrink_to_fit();  // a long macro keeps one program per formula
+    program.texts.shrink_to_fit();
 }
 
 size_t fpMemory(const FormulaProgram &program) {

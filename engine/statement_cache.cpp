@@ -16,7 +16,7 @@ size_t StatementCache::memory() const {
     size_t bytes = sizeof(*this) + slots_.capacity() * sizeof(Slot) + entries_.size() * sizeof(CachedStatement);
     for (const CachedStatement &e : entries_) {
         if (e.formula.capacity() > 7) bytes += (e.formula.capacity() + 1) * sizeof(char16_t);
-        if (e.program) bytes += fpMemory(*e.program);
+        bytes += fpMemory(e.program) - sizeof(FormulaProgram);
     }
     return bytes;
 }
@@ -32,8 +32,6 @@ void StatementCache::grow() {
     old.swap(slots_);
     size_t size = old.empty() ? 64 : old.size() * 2;
     slots_.resize(size);
-    shift_ = 64;
-    for (size_t s = size; s > 1; s >>= 1) --shift_;
     for (const Slot &s : old)
         if (s.key != kEmpty) place(s.key, s.entry);
 }

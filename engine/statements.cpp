@@ -46,9 +46,9 @@ void passOver(RunContext &ctx, const CachedStatement &e, TextPlace from) {
 // still resolves its names as the text would, else from the text, recording
 // the program for the next time.
 bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
-    if (e.program && (!e.program->names || e.generation == ctx.localGeneration))
-        return fpRun(ctx, *e.program, result);
-    e.program.reset();
+    if (e.recorded && (!e.program.names || e.generation == ctx.localGeneration))
+        return fpRun(ctx, e.program, result);
+    e.recorded = false;
     FormulaRecorder recorder;
     ctx.recorder = &recorder;
     Value *v = evEvaluate(ctx, e.formula.data(), e.formula.data() + e.formula.size());
@@ -58,12 +58,10 @@ bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
     result->asLong = valToLong(v);
     valRelease(v);
     if (!recorder.spoiled) {
-        try {
-            fpFold(recorder.program);
-            e.program = std::make_unique<FormulaProgram>(std::move(recorder.program));
-            e.generation = ctx.localGeneration;
-        } catch (const std::bad_alloc &) {  // read from the text again next time
-        }
+        fpFold(recorder.program);
+        e.program = std::move(recorder.program);
+        e.recorded = true;
+        e.generation = ctx.localGeneration;
     }
     return true;
 }
