@@ -191,12 +191,15 @@ bool apply(RunContext &ctx, const Step &step, Slot *s, int32_t &n) {
     int32_t fromStack = (step.left.kind == StepKind::kApply) + (binary && step.right.kind == StepKind::kApply);
     const Value *stackLeft = step.left.kind == StepKind::kApply ? &s[n - fromStack].v : nullptr;
     const Value *stackRight = binary && step.right.kind == StepKind::kApply ? &s[n - 1].v : nullptr;
-    Slot out;
+    // The result goes where the lowest stacked operand was. The quick paths
+    // have read their operands before they write it; the general path may
+    // still read them while computing, so its result is copied at the end.
+    Slot &result = s[n - fromStack];
     Number x, y;
     bool done = false;
     if (binary && numberOf(step.right, stackRight, &y)) {
-        if (row->number == kOpAssign) done = quickAssign(ctx, step.left, stackLeft, y, out);
-        else done = numberOf(step.left, stackLeft, &x) && quickCompute(row->number, x, y, out);
+        if (row->number == kOpAssign) done = quickAssign(ctx, step.left, stackLeft, y, result);
+        else done = numberOf(step.left, stackLeft, &x) && quickCompute(row->number, x, y, result);
     }
     if (!done) {
         Slot tmpLeft, tmpRight;
@@ -204,13 +207,9 @@ bool apply(RunContext &ctx, const Step &step, Slot *s, int32_t &n) {
         const Value *right = !binary ? nullptr : stackRight ? stackRight : materialise(step.right, tmpRight);
         OperatorResult r;
         if (!oprCompute(ctx, row, left, right, &r)) return false;
-        out.scalar(r.type, r.number);
+        result.scalar(r.type, r.number);
     }
-    n -= fromStack;
-    Slot &top = s[n++];
-    top.v = out.v;
-    top.v.data = top.element;
-    std::memcpy(top.element, out.element, sizeof top.element);
+    n += 1 - fromStack;
     return true;
 }
 

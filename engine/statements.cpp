@@ -42,12 +42,9 @@ void passOver(RunContext &ctx, const CachedStatement &e, TextPlace from) {
     rdSeek(ctx, TextPlace{e.after, from.line + e.lineDelta});
 }
 
-// Evaluates the entry's formula: by its program when one was recorded and
-// still resolves its names as the text would, else from the text, recording
-// the program for the next time.
-bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
-    if (e.recorded && (!e.program.names || e.generation == ctx.localGeneration))
-        return fpRun(ctx, e.program, result);
+// Evaluates the entry's formula from its text, recording the program for the
+// next time.
+bool evaluateAndRecord(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
     e.recorded = false;
     FormulaRecorder recorder;
     ctx.recorder = &recorder;
@@ -64,6 +61,14 @@ bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
         e.generation = ctx.localGeneration;
     }
     return true;
+}
+
+// Evaluates the entry's formula: by its program when one was recorded and
+// still resolves its names as the text would, else from the text.
+inline bool evaluate(RunContext &ctx, CachedStatement &e, FormulaResult *result) {
+    if (e.recorded && (!e.program.names || e.generation == ctx.localGeneration))
+        return fpRun(ctx, e.program, result);
+    return evaluateAndRecord(ctx, e, result);
 }
 
 // Reads a formula up to the character close, which must follow it, and keeps
