@@ -6,20 +6,25 @@
 #include <gtest/gtest.h>
 
 #include "standin_harness.h"
-#include "answered_run.h"
+#include "unattended.h"
 #include "win_harness.h"
 
 namespace {
 
 using Lines = std::vector<std::string>;
 
-// What the test saw of the form dialog while it was open.
+// What the test saw of the form dialog while it was open, and what it did.
 struct Seen {
     bool shown = false, zoomed = false, checked = false;
     std::wstring title, name;  // name: the stand-in's "Name" field as loaded
     HWND owner = nullptr;
     RECT window{}, client{}, frame{}, ok{}, cancel{}, status{};
 };
+
+Seen seen;
+std::wstring typeName;  // typed into "Name" before closing
+int press = IDOK;
+HHOOK hook;
 
 RECT childRect(HWND dialog, int id) {
     RECT r{};
@@ -28,23 +33,13 @@ RECT childRect(HWND dialog, int id) {
     return r;
 }
 
-// Reads the form dialog (the window holding frame 1032 and field 1014) and
-// types "Neu" into the stand-in's "Name" and checks its box. Wine may apply
-// a maximised state a little after the dialog's activation, so with zoom
-// the reading waits for it (about a second at most).
-Seen inspect(HWND dialog, bool zoom) {
-    for (int i = 0; zoom && !IsZoomed(dialog) && i < 50; ++i) {
-        MSG m;
-        while (PeekMessageW(&m, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&m);
-        Sleep(20);
-    }
-    Seen seen;
-    seen.shown = GetDlgItem(dialog, 1032) && GetDlgItem(dialog, 1014);
+void CALLBACK inspect(HWND dialog, UINT, UINT_PTR id, DWORD) {
+    KillTimer(dialog, id);
+    seen.shown = true;
     wchar_t text[256];
     GetWindowTextW(dialog, text, 256);
     seen.title = text;
     seen.owner = GetWindow(dialog, GW_OWNER);
-    seen.zoomed = IsZoomed(dialog);
     GetWindowRect(dialog, &seen.window);
     GetClientRect(dialog, &seen.client);
     seen.frame = childRect(dialog, 1032);
@@ -55,9 +50,24 @@ Seen inspect(HWND dialog, bool zoom) {
     GetDlgItemTextW(frame, 100, text, 256);
     seen.name = text;
     seen.checked = IsDlgButtonChecked(frame, 101) == BST_CHECKED;
-    SetDlgItemTextW(frame, 100, L"Neu");
+    SetDlgItemTextW(frame, 100, typeName.c_str());
     CheckDlgButton(frame, 101, BST_CHECKED);
-    return seen;
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(press, BN_CLICKED), 0);
+}
+
+// Takes the form dialog (the window holding frame 1032 and field 1014) away
+// from the box watcher and inspects it once it runs. Whether it is maximised
+// is read from the request to maximise it: without a window manager Wine may
+// take a window's maximised state back a moment later.
+LRESULT CALLBACK watchForm(int code, WPARAM wParam, LPARAM lParam) {
+    HWND w = reinterpret_cast<HWND>(wParam);
+    bool form = GetDlgItem(w, 1032) && GetDlgItem(w, 1014);
+    if (code == HCBT_MINMAX && form && LOWORD(lParam) == SW_MAXIMIZE) seen.zoomed = true;
+    if (code == HCBT_ACTIVATE && form) {
+        SetTimer(w, 1, 1, inspect);
+        return 0;
+    }
+    return CallNextHookEx(hook, code, wParam, lParam);
 }
 
 std::string rect(const RECT &r) {
@@ -68,33 +78,31 @@ std::string rect(const RECT &r) {
 class FormDialog : public ::testing::Test {
 protected:
     void SetUp() override {
+        unattendedStart(nullptr);  // the box watcher first, so this hook runs before it
+        hook = SetWindowsHookExW(WH_CBT, watchForm, nullptr, GetCurrentThreadId());
         standinLogStart();
         useForm(L"full");
+        seen = Seen{};
+        typeName = L"Neu";
+        press = IDOK;
     }
     void TearDown() override {
         SetDllDirectoryW(nullptr);
         releaseOwner();
+        UnhookWindowsHookEx(hook);
     }
     static void useForm(const std::wstring &variant) { SetDllDirectoryW(standinDir(L"form", variant).c_str()); }
 
     // FormDialog(name, DEST, title, height, width, mode, 0) with DEST the
-    // scratch directory's kunde.txt unless given, answered by pressing
-    // answer ("ok" or "cancel"; none when no dialog is expected). The box
-    // line the answer hook reports for the dialog and the result line are
-    // left out.
-    std::string form(int height = 0, int width = 0, int mode = 0, const std::string &answer = "ok",
-                     const std::string &name = "kunde", const std::string &dest = "") {
+    // scratch directory's kunde.txt unless given.
+    std::string form(int height = 0, int width = 0, int mode = 0, const std::string &name = "kunde",
+                     const std::string &dest = "") {
         seen = Seen{};
-        std::string out = runAnswered(answer.empty() ? "" : answer + "\n",
-                                      "Print(FormDialog(\"" + name + "\", \"" + (dest.empty() ? macroPath(file) : dest) +
-                                          "\", \"Kundendaten\", " + std::to_string(height) + ", " + std::to_string(width) +
-                                          ", " + std::to_string(mode) + ", 0));",
-                                      [&](HWND w, mx::DialogKind) { seen = inspect(w, mode == 1); }, nullptr);
-        if (out.rfind("Kundendaten: \n", 0) == 0) out.erase(0, 14);
-        return out.substr(0, out.rfind("result: "));
+        return runIn(nullptr, "Print(FormDialog(\"" + name + "\", \"" + (dest.empty() ? macroPath(file) : dest) +
+                                  "\", \"Kundendaten\", " + std::to_string(height) + ", " + std::to_string(width) +
+                                  ", " + std::to_string(mode) + ", 0));");
     }
     std::wstring file = winScratchDir() + L"\\kunde.txt";
-    Seen seen;
 };
 
 const std::string kOpen = "Form_Open parent-id=1032 name=kunde a=99 profile=formdia.ini";
@@ -129,7 +137,8 @@ TEST_F(FormDialog, ValuesRoundTripThroughTheDestinationFile) {
 
 TEST_F(FormDialog, CancelAndBlankDestinationSaveNothing) {
     winWriteFile(file, "[Formatted]\nName: Alt\nChecked: Ja\n");
-    EXPECT_EQ(form(0, 0, 0, "cancel"), "2\n");
+    press = IDCANCEL;
+    EXPECT_EQ(form(), "2\n");
     EXPECT_EQ(seen.name, L"Alt");
     EXPECT_TRUE(seen.checked);
     EXPECT_EQ(winReadFile(file), "[Formatted]\nName: Alt\nChecked: Ja\n");
@@ -137,7 +146,8 @@ TEST_F(FormDialog, CancelAndBlankDestinationSaveNothing) {
     ASSERT_EQ(c.size(), 9u);
     EXPECT_EQ(Lines(c.begin() + 5, c.end() - 1), kShow);
     // Blank: nothing loaded, nothing saved, still OK.
-    EXPECT_EQ(form(0, 0, 0, "ok", "kunde", " \\t "), "1\n");
+    press = IDOK;
+    EXPECT_EQ(form(0, 0, 0, "kunde", " \\t "), "1\n");
     EXPECT_EQ(standinCalls(), join({kPrepare, kShow, {"unload"}}));
 }
 
@@ -177,21 +187,21 @@ TEST_F(FormDialog, SizePlacementAndLayout) {
 
 TEST_F(FormDialog, FailuresAnswer2) {
     // An empty form name loads nothing.
-    EXPECT_EQ(form(0, 0, 0, "", ""), "2\n");
+    EXPECT_EQ(form(0, 0, 0, ""), "2\n");
     EXPECT_TRUE(standinCalls().empty());
     // The module cannot open the form: no dialog is seen.
     useForm(L"open-fails");
-    EXPECT_EQ(form(0, 0, 0, ""), "2\n");
+    EXPECT_EQ(form(), "2\n");
     EXPECT_FALSE(seen.shown);
     EXPECT_EQ(standinCalls(), (Lines{"load", kOpen, "unload"}));
     SetDllDirectoryW(nullptr);
-    EXPECT_EQ(form(0, 0, 0, ""), "Makrofehler: s DLL kann nicht geladen werden\n\nMSKDLG32.DLL\n\n2\n");
+    EXPECT_EQ(form(), "Makrofehler: s DLL kann nicht geladen werden\n\nMSKDLG32.DLL\n\n2\n");
     for (const char *entry : {"Form_Open", "Form_MakeUntitled", "Form_SetWorkModeExt", "Form_PerformBeginMacro",
                               "Form_SetHwndNotify", "Form_SetChangeFlag", "Form_SaveToProfileExtended",
                               "Form_LoadFromProfileExtended", "Form_DataAccess"}) {
         std::string variant = std::string("no-") + entry;
         useForm(std::wstring(variant.begin(), variant.end()));
-        EXPECT_EQ(form(0, 0, 0, ""), "Makrofehler: s Die Funktion " + std::string(entry) +
+        EXPECT_EQ(form(), "Makrofehler: s Die Funktion " + std::string(entry) +
                               " wurde in der dynamischen Bibliothek MSKDLG32.DLL nicht gefunden.\n2\n");
         EXPECT_EQ(standinCalls(), (Lines{"load", "unload"})) << entry;
     }
