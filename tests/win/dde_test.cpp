@@ -230,6 +230,8 @@ TEST_F(DdeTest, ConversationWithTheShell) {
     std::string bytes;
     for (char16_t u : utf16(got.substr(7, groups - 7))) bytes += {char(u & 0xFF), char(u >> 8)};
     EXPECT_NE(bytes.find("Morvix Test\r\n"), std::string::npos) << got;
+    // The shell may acknowledge before it has removed the folder.
+    for (int i = 0; i < 100 && GetFileAttributesW(group.c_str()) != INVALID_FILE_ATTRIBUTES; ++i) Sleep(50);
     EXPECT_EQ(GetFileAttributesW(group.c_str()), INVALID_FILE_ATTRIBUTES);
     RemoveDirectoryW(group.c_str());
 }
